@@ -1,0 +1,31 @@
+// `frmgrafcassa`, the window "Transfer Function": the box response, its stored traces, and what is laid over it.
+#pragma once
+
+#include "core/controls.h"
+
+namespace zefirondo {
+
+struct BoxResponse {
+  Window window;
+  Surface surface;
+  Control lblnomegraf, pctgraf, pctvalori, txtpos, lblfrequenza;
+  Control lbl3dB, txtF3dB, lblhz;
+  Control lblovl1, cmdset1, lblset1, chkonoff1, lblonoff1;
+  Control lblovl2, cmdset2, lblset2, chkonoff2, lblonoff2;
+  Control fraleggenda, lblcassa, lblfiltro, lblimport, lblsomma;
+  Control cmdsomma, cmdcancella;
+  Control frmdbcal, Label1, txtdbcal, lbldbcal, cmdmeno, cmdpiu, cmdcalibra;
+
+  Control mnufilegrafico, mnuimportatracciato, mnusalvatracciatorosso, mnusalvatracciatoblu, mnuimportaOverlay;
+  Control mnugrafstampa, mnuchiudigraf;
+  Control mnuvisualizza, mnufase, mnuspl, mnusplmax, mnuescursione, mnuairspeed;
+  Control mnufiltri, mnucalcolatrice;
+  Control mnuinfo2, mnuguida, mnuinformazioni;
+
+  Curve OverlayFreq, OverlayDb;  // the imported response, level + 40
+  double CalibrationDb = 0.0;
+
+  explicit BoxResponse(ProjectState& state);
+};
+
+}  // namespace zefirondo

@@ -1,0 +1,25 @@
+#include "program/assembly.h"
+
+#include "box/events.h"
+#include "core/air.h"
+#include "core/fields.h"
+#include "core/sheet.h"
+#include "core/shell.h"
+#include "files/events.h"
+#include "response/events.h"
+#include "transducer/events.h"
+
+namespace zefirondo {
+
+void ConnectProgram(Program& program) {
+  ConnectFieldRules(program);
+  ConnectShell(program);
+  ConnectSheet(program);
+  ConnectAir(program);
+  ConnectFiles(program);
+  ConnectResponse(program);
+  ConnectBox(program);
+  ConnectTransducer(program);
+}
+
+}  // namespace zefirondo
