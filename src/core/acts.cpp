@@ -141,6 +141,7 @@ Refusal WhyNot(Program& program, const Control& control) {
 
 void RunEvent(Program& program, const std::function<void()>& act) {
   if (!Running(program)) return;
+  program.held = nullptr;
   try {
     act();
     RunQueuedKeys(program);
@@ -244,17 +245,19 @@ Outcome BeginTyping(Program& program, Control& field) {
   return PerformInField(program, field, [] {});
 }
 
-void PressKey(Program& program, int key) {
+Outcome PressKey(Program& program, int key) {
   RunEvent(program, [&] {
     if (program.focus != nullptr) ComeToFront(program, *program.focus->window);
     RunKey(program, key);
   });
+  return {Refusal::None, program.held};
 }
 
-void PressBackTab(Program& program) {
+Outcome PressBackTab(Program& program) {
   RunEvent(program, [&] {
     if (Control* const previous = NextInTabOrder(program, true)) MoveFocus(program, previous);
   });
+  return {Refusal::None, program.held};
 }
 
 Outcome Paste(Program& program, Control& field, const std::string& text) {

@@ -39,8 +39,8 @@ Outcome BeginTyping(Program& program, Control& field);
 
 /// Sends a key to the control that has the focus, and then the keys that it queued. Characters are given by
 /// their code points.
-void PressKey(Program& program, int key);
-void PressBackTab(Program& program);
+Outcome PressKey(Program& program, int key);
+Outcome PressBackTab(Program& program);
 
 /// Puts a text in place of all that a field holds, as a paste does: one change event, no key filter.
 Outcome Paste(Program& program, Control& field, const std::string& text);

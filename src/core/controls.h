@@ -122,6 +122,7 @@ struct Control {
   double left = 0.0, top = 0.0, width = 0.0;  // of a read-out, in user coordinates of its plot
   int progress = 0;                            // percent, of a progress bar
   Surface* surface = nullptr;                  // of a plot
+  Control* readout = nullptr;                  // of a plot: the text that shows at the mouse
   const FieldRules* rules = nullptr;           // of a field that filters keys or tests its text
 
   ControlEvents on;

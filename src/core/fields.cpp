@@ -103,7 +103,7 @@ void PassFocusByEnter(Program& program, const Control& field) {
   if (target.empty()) {
     program.keys.push_back(key::kTab);
   } else {
-    GiveFocus(program, *field.window->Find(target));
+    MoveFocus(program, field.window->Find(target));
   }
 }
 

@@ -29,6 +29,11 @@ bool RunLost(Program& program, Control& old, Control* target) {
   return program.focus == target;
 }
 
+FocusMove Hold(Program& program, Control& control) {
+  program.held = &control;
+  return FocusMove::Held;
+}
+
 /// `txtrvc` sends the focus on to `txtbl` once Qms is there, wherever the person was heading.
 void RunLeavingRedirection(Program& program, const Control& old) {
   Sheet& sheet = program.windows.frmthsm;
@@ -42,11 +47,11 @@ FocusMove MoveFocus(Program& program, Control* target) {
   if (old == target) return FocusMove::Moved;
   if (old != nullptr) {
     const bool free = RunLeavingTest(program, *old) && (old->on.validate == nullptr || old->on.validate(program));
-    if (!free) return FocusMove::Held;
+    if (!free) return Hold(program, *old);
     RunLeavingRedirection(program, *old);
     if (program.focus != old) return program.focus == target ? FocusMove::Moved : FocusMove::Redirected;
     if (!RunLost(program, *old, target)) {
-      return program.focus == old ? FocusMove::Held : FocusMove::Redirected;
+      return program.focus == old ? Hold(program, *old) : FocusMove::Redirected;
     }
   }
   if (target == nullptr) return FocusMove::Moved;

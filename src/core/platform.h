@@ -44,6 +44,9 @@ struct Date {
   int year = 2000;
 };
 
+/// A date as "dd/mm/yyyy".
+[[nodiscard]] std::string DateText(const Date& date);
+
 class Platform {
  public:
   Platform() = default;

@@ -43,6 +43,7 @@ struct Program {
   std::vector<Window*> order;  // the open windows, front first, the frame last
   Window* active = nullptr;    // the window that was activated last
   Control* focus = nullptr;    // the control that has the focus
+  Control* held = nullptr;     // the control that kept the focus during the act that runs
   std::deque<int> keys;        // queued keystrokes
   RunState run = RunState::NotStarted;
 

@@ -21,14 +21,6 @@ constexpr double kNarrowestScreen = 15360;  // twips: 1024 pixels
 constexpr double kDefaultPortArea = 0.003525652;
 constexpr double kFreeAirFactor = 1.400823478;
 
-std::string TodayText(Program& program) {
-  const Date today = program.platform.Today();
-  const auto two = [](int number) { return (number < 10 ? "0" : "") + std::to_string(number); };
-  std::string year = std::to_string(today.year);
-  year.insert(0, year.size() < 4 ? 4 - year.size() : 0, '0');
-  return two(today.day) + "/" + two(today.month) + "/" + year;
-}
-
 void SetOptionDefaults(ProjectState& state) {
   state.WooferWiring = "biamp";
   state.RsAmplifier = 0.1;
@@ -70,7 +62,7 @@ void frmthsm_Load(Program& program) {
   s.Set1SplStored = s.Set2SplStored = s.Set1SplShown = s.Set2SplShown = false;
   RecreateStoredBoxTraces(s);
   sheet.window.left = sheet.window.top = 0;
-  AssignText(program, sheet.txtdatacreaz, TodayText(program));
+  AssignText(program, sheet.txtdatacreaz, DateText(program.platform.Today()));
   if (s.txtingombro.empty()) AssignText(program, sheet.txtingombro, "0");
   s.DesignChanged = s.ProjectModified = s.FilterComputed = false;
 

@@ -21,6 +21,7 @@ constexpr std::array kGraphs = std::to_array<GraphRow>({
 });
 
 void PutInOrder(Program& program, Window& window, bool front) {
+  if (!window.open) return;
   std::erase(program.order, &window);
   const auto frame = std::find(program.order.begin(), program.order.end(), &program.windows.mdithsm.window);
   const bool is_frame = &window == &program.windows.mdithsm.window;

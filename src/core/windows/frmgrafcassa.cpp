@@ -72,6 +72,7 @@ BoxResponse::BoxResponse(ProjectState& state) {
   window.values = {{"OverlayFreq", &OverlayFreq}, {"OverlayDb", &OverlayDb}, {"CalibrationDb", &CalibrationDb}};
   DescribeWindow(*this, state, kRows);
   pctgraf.surface = &surface;
+  pctgraf.readout = &txtpos;
   surface.twips_width = 8850;
   surface.twips_height = 6015;
 }

@@ -1,0 +1,9 @@
+#include "files/events.h"
+
+#include "files/project_file.h"
+
+namespace zefirondo {
+
+void ConnectFiles(Program& program) { ConnectProjectFile(program); }
+
+}  // namespace zefirondo

@@ -1,0 +1,90 @@
+#include "response/graph_surface.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/numbers.h"
+#include "core/run_time_error.h"
+
+namespace zefirondo {
+namespace {
+
+constexpr int kZeroDecibel = 40;      // a box level of 0 dB is stored as 40
+constexpr double kBoxGridLeft = 20;   // the x at the left edge of the box plot
+constexpr int kBoxGridLimit = 5000;   // Hz
+
+/// How many points of a curve with this many slots are drawn.
+std::size_t DrawnPoints(std::size_t slots) { return slots >= 4 ? slots - 2 : 0; }
+
+/// A number as the value labels show it: a blank stands for the plus sign.
+std::string LabelText(int value) { return (value >= 0 ? " " : "") + std::to_string(value); }
+
+/// Horizontal lines with their labels, a step apart, from the first level above 0 up to the top.
+void DrawLevels(Surface& surface, int top, int step, int shown_less, double grid_left) {
+  surface.ClearLabels();
+  for (int level = step; level <= top; level += step) {
+    const double y = top - level;
+    surface.AddLabel(LabelText(level - shown_less), y);
+    surface.Line(0, y, surface.scale.width + grid_left, y, colour::kBlack);
+  }
+}
+
+/// Vertical lines by decades; the line between two decades is drawn twice.
+void DrawFrequencies(Surface& surface, int limit) {
+  for (int decade = 10; decade < limit; decade *= 10) {
+    const int last = std::min(decade * 10, limit);
+    for (int f = decade; f <= last; f += decade) {
+      const double x = 20 * Log10(f);
+      surface.Line(x, 0, x, surface.scale.height, colour::kBlack);
+    }
+  }
+}
+
+}  // namespace
+
+void DisegnaCurva(const Curve& x, const Curve& y, double top, Surface& surface, int colour) {
+  const std::size_t count = DrawnPoints(x.size());
+  if (count == 0) return;
+  if (y.size() < count) throw RunTimeError(ErrorNumber::IndexOutOfRange);
+  Point* const points = surface.Chain(count, colour);
+  for (std::size_t i = 0; i < count; ++i) points[i] = {x[i], top - y[i]};
+}
+
+void DisegnaImpedenza(const Curve& hertz, const Curve& ohm, double top, Surface& surface, int colour) {
+  const std::size_t count = DrawnPoints(hertz.size());
+  if (count == 0) return;
+  if (ohm.size() < count) throw RunTimeError(ErrorNumber::IndexOutOfRange);
+  Point* const points = surface.Chain(count, colour);
+  for (std::size_t i = 0; i < count; ++i) points[i] = {20 * Log10(hertz[i]), top - ohm[i]};
+}
+
+int GridStep(int top) {
+  if (top < 160) return 10;
+  // Exactly 160 and exactly 320 have the step of the largest scales, as wanted.
+  if (top > 160 && top < 320) return 20;
+  if (top > 320 && top < 480) return 30;
+  return 40;
+}
+
+void GrigliaCassa(int top, Surface& surface) {
+  DrawLevels(surface, top, GridStep(top), kZeroDecibel, kBoxGridLeft);
+  DrawFrequencies(surface, kBoxGridLimit);
+}
+
+void ShowReadout(const Surface& surface, Control& readout, double x, double y, double value,
+                 const ReadoutStyle& style) {
+  const Scale& scale = surface.scale;
+  const std::string hertz = FormatTwoDecimals(std::pow(10.0, x / 20));
+  const std::string shown = FormatTwoDecimals(value);
+  // The width leaves out the words in between, as wanted.
+  readout.width = static_cast<double>((hertz + " " + shown).size());
+  *readout.text = hertz + " Hz ; " + shown + style.unit;
+  readout.left = x > scale.width / 2 + 7 ? x - readout.width + 7 : x + 1;
+  const double twips_per_unit = Divide(surface.twips_height, scale.height);
+  readout.top = y > scale.height / 2 ? y - 320 / twips_per_unit : y + style.below_twips / twips_per_unit;
+  readout.visible = true;
+}
+
+void HideReadout(Control& readout) { readout.visible = false; }
+
+}  // namespace zefirondo

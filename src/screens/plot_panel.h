@@ -1,0 +1,47 @@
+// A plot with what stands around it: the strip of values at its left, and the frequencies below.
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+#include "core/controls.h"
+
+namespace zefirondo::screens {
+
+class Binder;
+class PlotWidget;
+
+/// A frequency that is written below a plot.
+struct FrequencyMark {
+  double hertz;
+  const char* text;
+};
+
+/// The frequencies that are written below a plot that ends at `highest` hertz.
+[[nodiscard]] std::vector<FrequencyMark> FrequencyMarks(double highest);
+
+class PlotPanel : public QWidget {
+ public:
+  PlotPanel(const Surface& surface, std::vector<FrequencyMark> marks, QWidget* parent);
+
+  [[nodiscard]] PlotWidget* plot() const { return plot_; }
+  [[nodiscard]] QSize sizeHint() const override;
+
+  /// Brings plot, values and read-out in line with the data.
+  void ShowSurface(const Control& readout);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void PaintValues(QPainter& painter) const;
+  void PaintFrequencies(QPainter& painter) const;
+
+  const Surface& surface_;
+  std::vector<FrequencyMark> marks_;
+  PlotWidget* plot_;
+  std::uint64_t shown_ = 0;
+};
+
+}  // namespace zefirondo::screens

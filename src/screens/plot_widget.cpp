@@ -1,0 +1,219 @@
+#include "screens/plot_widget.h"
+
+#include <QFrame>
+#include <QLabel>
+#include <QPaintEvent>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "screens/looks.h"
+#include "screens/qt_text.h"
+
+namespace zefirondo::screens {
+namespace {
+
+constexpr double kCurveWeight = 1.6;   // against a hairline of 1
+constexpr double kTolerance = 0.08;    // pixels that a thinned curve may stray from the full one
+constexpr double kFarOutside = 4.0;    // plot heights beyond which a point need not be exact
+const QColor kGridColour(150, 150, 150);
+
+struct Mapping {
+  double x0, x_factor, y0, y_factor, lowest, highest;
+
+  Mapping(const Scale& scale, const QRectF& area)
+      : x0(area.left() - scale.left * area.width() / scale.width),
+        x_factor(area.width() / scale.width),
+        y0(area.top()),
+        y_factor(area.height() / scale.height),
+        lowest(area.top() - kFarOutside * area.height()),
+        highest(area.bottom() + kFarOutside * area.height()) {}
+
+  [[nodiscard]] QPointF operator()(const Point& point) const {
+    return {x0 + point.x * x_factor, std::clamp(y0 + point.y * y_factor, lowest, highest)};
+  }
+};
+
+/// Collects a curve, keeping of each pixel column what can be seen there: its first and last point and its
+/// extremes. Points on a straight stretch are dropped.
+class ThinnedCurve {
+ public:
+  void Add(const QPointF& point) {
+    if (!std::isfinite(point.x()) || !std::isfinite(point.y())) return;
+    const double column = std::floor(point.x());
+    if (has_column_ && column == column_) {
+      if (point.y() < low_.y()) low_ = point;
+      if (point.y() > high_.y()) high_ = point;
+      last_ = point;
+      return;
+    }
+    FlushColumn();
+    column_ = column;
+    has_column_ = true;
+    first_ = low_ = high_ = last_ = point;
+  }
+
+  [[nodiscard]] const std::vector<QPointF>& Finish() {
+    FlushColumn();
+    if (has_pending_) kept_.push_back(pending_);
+    return kept_;
+  }
+
+ private:
+  void FlushColumn() {
+    if (!has_column_) return;
+    has_column_ = false;
+    Keep(first_);
+    if (low_ != first_ && low_ != last_ && high_ != first_ && high_ != last_) {
+      const bool falls = low_.x() < high_.x();
+      Keep(falls ? low_ : high_);
+      Keep(falls ? high_ : low_);
+    } else if (low_ != first_ && low_ != last_) {
+      Keep(low_);
+    } else if (high_ != first_ && high_ != last_) {
+      Keep(high_);
+    }
+    if (last_ != first_) Keep(last_);
+  }
+
+  /// Holds a point back as long as the line from the last kept point to the next one passes close by all that
+  /// were left out: the slopes that do so form a wedge that each point narrows.
+  void Keep(const QPointF& point) {
+    if (kept_.empty()) {
+      kept_.push_back(point);
+      return;
+    }
+    const double run = point.x() - kept_.back().x();
+    const double rise = point.y() - kept_.back().y();
+    if (has_pending_ && (run <= kTolerance || rise / run < wedge_low_ || rise / run > wedge_high_)) {
+      kept_.push_back(pending_);
+      has_pending_ = false;
+      Keep(point);
+      return;
+    }
+    if (!has_pending_) {
+      wedge_low_ = -HUGE_VAL;
+      wedge_high_ = HUGE_VAL;
+    }
+    pending_ = point;
+    has_pending_ = true;
+    if (run > kTolerance) {
+      wedge_low_ = std::max(wedge_low_, (rise - kTolerance) / run);
+      wedge_high_ = std::min(wedge_high_, (rise + kTolerance) / run);
+    } else {
+      wedge_low_ = HUGE_VAL;  // a steep piece: the next point starts anew
+    }
+  }
+
+  std::vector<QPointF> kept_;
+  QPointF first_, low_, high_, last_, pending_;
+  double column_ = 0.0, wedge_low_ = 0.0, wedge_high_ = 0.0;
+  bool has_column_ = false, has_pending_ = false;
+};
+
+bool IsGridLine(const Stroke& stroke) { return stroke.count == 2 && stroke.colour == colour::kBlack; }
+
+void PaintGridLine(QPainter& painter, const QPointF& from, const QPointF& to, double weight) {
+  const double width = std::max(1.0, std::round(weight));
+  const QRectF line(QPointF(std::floor(std::min(from.x(), to.x())), std::floor(std::min(from.y(), to.y()))),
+                    QSizeF(std::max(width, std::abs(to.x() - from.x())), std::max(width, std::abs(to.y() - from.y()))));
+  painter.fillRect(line, kGridColour);
+}
+
+void PaintGrid(QPainter& painter, const Surface& surface, const QRectF& area, double weight) {
+  for (const Stroke& stroke : surface.strokes) {
+    if (!IsGridLine(stroke)) continue;
+    const Mapping map(stroke.scale, area);
+    const Point* const ends = surface.points.data() + stroke.first;
+    PaintGridLine(painter, map(ends[0]), map(ends[1]), weight);
+  }
+}
+
+void PaintCurve(QPainter& painter, const Surface& surface, const Stroke& stroke, const QRectF& area, double weight) {
+  const Mapping map(stroke.scale, area);
+  ThinnedCurve curve;
+  const Point* const points = surface.points.data() + stroke.first;
+  for (std::size_t i = 0; i < stroke.count; ++i) curve.Add(map(points[i]));
+  const std::vector<QPointF>& kept = curve.Finish();
+  painter.setPen(QPen(LiteralColour(stroke.colour), kCurveWeight * weight, Qt::SolidLine, Qt::FlatCap, Qt::BevelJoin));
+  painter.drawPolyline(kept.data(), static_cast<int>(kept.size()));
+}
+
+}  // namespace
+
+void PaintSurface(QPainter& painter, const Surface& surface, const QRectF& area, double weight) {
+  painter.save();
+  painter.setClipRect(area);
+  painter.fillRect(area, Qt::white);
+  PaintGrid(painter, surface, area, weight);
+  painter.setRenderHint(QPainter::Antialiasing);
+  for (const Stroke& stroke : surface.strokes) {
+    if (stroke.count >= 2 && !IsGridLine(stroke)) PaintCurve(painter, surface, stroke, area, weight);
+  }
+  painter.restore();
+}
+
+QImage SurfaceImage(const Surface& surface, const QSize& size) {
+  QImage image(size, QImage::Format_RGB32);
+  QPainter painter(&image);
+  PaintSurface(painter, surface, QRectF(QPointF(), size));
+  return image;
+}
+
+PlotWidget::PlotWidget(const Surface& surface, QWidget* parent)
+    : QWidget(parent), surface_(surface), readout_(new QLabel(this)) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setCursor(Qt::CrossCursor);
+  readout_->hide();
+  readout_->setTextFormat(Qt::PlainText);
+  readout_->setFrameShape(QFrame::Box);
+  readout_->setAutoFillBackground(true);
+  readout_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  QPalette dark_on_light = palette();
+  dark_on_light.setColor(QPalette::Window, Qt::white);
+  dark_on_light.setColor(QPalette::WindowText, Qt::black);
+  readout_->setPalette(dark_on_light);
+}
+
+QPointF PlotWidget::ToUser(const QPointF& place) const {
+  const Scale& scale = surface_.scale;
+  return {scale.left + place.x() / width() * scale.width, place.y() / height() * scale.height};
+}
+
+void PlotWidget::ShowSurface(const Control& readout) {
+  if (shown_ != surface_.revision) update();
+  shown_ = surface_.revision;
+  ShowReadout(readout);
+}
+
+void PlotWidget::ShowReadout(const Control& readout) {
+  if (readout.visible) {
+    const Mapping map(surface_.scale, QRectF(rect()));
+    readout_->setText(ToQt(*readout.text));
+    const QSize needed = readout_->sizeHint() + QSize(readout_->fontMetrics().averageCharWidth(), 0);
+    const int wanted = static_cast<int>(readout.width * map.x_factor);
+    const QPointF corner = map({readout.left, readout.top});
+    const int box_width = std::max(needed.width(), wanted);
+    readout_->setGeometry(std::clamp(static_cast<int>(corner.x()), 0, std::max(0, width() - box_width)),
+                          std::clamp(static_cast<int>(corner.y()), 0, std::max(0, height() - needed.height())),
+                          box_width, needed.height());
+  }
+  if (readout_->isHidden() == readout.visible) readout_->setVisible(readout.visible);
+}
+
+void PlotWidget::paintEvent(QPaintEvent* /*event*/) {
+  const double ratio = devicePixelRatioF();
+  const QSize pixels = (QSizeF(size()) * ratio).toSize();
+  if (picture_.size() != pixels || painted_ != surface_.revision) {
+    picture_ = QPixmap(pixels);
+    QPainter painter(&picture_);
+    PaintSurface(painter, surface_, QRectF(QPointF(), pixels), ratio);
+    painter.end();
+    picture_.setDevicePixelRatio(ratio);
+    painted_ = surface_.revision;
+  }
+  QPainter(this).drawPixmap(0, 0, picture_);
+}
+
+}  // namespace zefirondo::screens
