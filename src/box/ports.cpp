@@ -11,7 +11,7 @@ namespace {
 constexpr double kFreeAirGamma = 1.400823478;
 constexpr double kThreePi = 9.42477796076937;
 constexpr double kNinePi = 28.27433388230811;
-constexpr double kAirSpeedLimit = 7.5 / 100;  // of the speed of sound
+constexpr double kAirSpeedLimit = 7.5 / 100;       // of the speed of sound
 constexpr const char* kTooShort = "Troppo corto";  // in both languages
 
 /// The sides of a rectangular section in m.
@@ -22,9 +22,7 @@ struct Sides {
 
 Sides ReadSides(const ProjectState& s) { return {ReadNumber(s.cmbDoa) / 100, ReadNumber(s.txtb) / 100}; }
 
-bool RoundIsFilled(Program& program) {
-  return program.windows.frmthsm.RoundPort() && !program.state.cmbDoa.empty();
-}
+bool RoundIsFilled(Program& program) { return program.windows.frmthsm.RoundPort() && !program.state.cmbDoa.empty(); }
 
 /// The smallest section, and the actual one in red below it.
 void ShowMinimumSection(Program& program) {

@@ -8,8 +8,8 @@ namespace zefirondo {
 namespace {
 
 constexpr double kFreeAirGamma = 1.400823478;
-constexpr double kMolarMass = 28.9644;       // kg/kmol
-constexpr double kGasConstant = 8314.472;    // J/(kmol·K)
+constexpr double kMolarMass = 28.9644;     // kg/kmol
+constexpr double kGasConstant = 8314.472;  // J/(kmol·K)
 constexpr double kKelvin = 273.15;
 constexpr double kLowestTemperature = -273;  // °C; the bound itself is accepted
 constexpr double kDefaultTemperature = 25.0;

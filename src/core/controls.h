@@ -70,8 +70,8 @@ struct ControlEvents {
 /// A text of the table by its number, or a fixed one.
 struct Caption {
   constexpr Caption() = default;
-  constexpr Caption(int message) : id(message) {}                           // NOLINT(google-explicit-constructor)
-  constexpr Caption(const char* fixed) : literal(fixed) {}                  // NOLINT(google-explicit-constructor)
+  constexpr Caption(int message) : id(message) {}           // NOLINT(google-explicit-constructor)
+  constexpr Caption(const char* fixed) : literal(fixed) {}  // NOLINT(google-explicit-constructor)
   int id = 0;
   const char* literal = "";
 
@@ -82,7 +82,7 @@ struct Caption {
 
 /// How a control stands when its window is loaded.
 struct ControlDesign {
-  Caption caption{};  // the words on it; of a field, the words beside it
+  Caption caption{};                           // the words on it; of a field, the words beside it
   Caption unit{};                              // the words behind a field
   std::string ProjectState::*field = nullptr;  // the member that is the text of a sheet field
   const char* parent = "";                     // the frame it stands on, or the menu it belongs to
@@ -117,13 +117,13 @@ struct Control {
   int fore = colour::kText;
   std::vector<std::string> list;
 
-  std::size_t selection_start = 0;   // in characters; the caret stands behind the selection
+  std::size_t selection_start = 0;  // in characters; the caret stands behind the selection
   std::size_t selection_length = 0;
   double left = 0.0, top = 0.0, width = 0.0;  // of a read-out, in user coordinates of its plot
-  int progress = 0;                            // percent, of a progress bar
-  Surface* surface = nullptr;                  // of a plot
-  Control* readout = nullptr;                  // of a plot: the text that shows at the mouse
-  const FieldRules* rules = nullptr;           // of a field that filters keys or tests its text
+  int progress = 0;                           // percent, of a progress bar
+  Surface* surface = nullptr;                 // of a plot
+  Control* readout = nullptr;                 // of a plot: the text that shows at the mouse
+  const FieldRules* rules = nullptr;          // of a field that filters keys or tests its text
 
   ControlEvents on;
 
@@ -167,8 +167,8 @@ struct Window {
   std::string caption;
   bool open = false;
   bool hidden = false;
-  bool centred = false;       // placed in the middle of the frame when opened
-  bool takes_focus = false;   // a small window that the user fills in: it takes the focus when opened
+  bool centred = false;      // placed in the middle of the frame when opened
+  bool takes_focus = false;  // a small window that the user fills in: it takes the focus when opened
   double left = 0.0, top = 0.0, width = 0.0, height = 0.0;  // twips, within the frame
   double design_left = 0.0, design_top = 0.0;
   std::vector<Control*> controls;  // in the order of the form, which is the tab order
@@ -187,11 +187,11 @@ struct Window {
 /// it is and how it looks.
 template <class Form>
 struct ControlRow {
-  ControlKind kind;
-  const char* name;
-  int index;
-  Control& (*member)(Form&);
-  ControlDesign design;
+  ControlKind kind = ControlKind::Label;
+  const char* name = "";
+  int index = -1;
+  Control& (*member)(Form&) = nullptr;
+  ControlDesign design{};
 };
 
 /// Ties one control to its description.

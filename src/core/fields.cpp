@@ -152,8 +152,8 @@ bool FilterKey(Program& program, Control& field, int k) {
 void RunGotFocusRules(Program& program, Control& field) {
   if (field.rules == nullptr) return;
   const OnFocus action = field.rules->on_focus;
-  const bool selects = action == SelectAll || action == SelectAllRemember ||
-                       (action == SelectAllUnlessReadOnly && !field.locked);
+  const bool selects =
+      action == SelectAll || action == SelectAllRemember || (action == SelectAllUnlessReadOnly && !field.locked);
   if (selects && !field.text->empty()) {
     field.selection_start = 0;
     field.selection_length = CharacterCount(TrimBlanks(*field.text));

@@ -25,7 +25,7 @@ enum class KeyFilter {
 enum class OnFocus {
   Nothing,
   SelectAll,
-  SelectAllRemember,        // `FieldBefore` takes the text too
+  SelectAllRemember,  // `FieldBefore` takes the text too
   SelectAllUnlessReadOnly,
   Remember,
   RememberUnlessEmpty,
@@ -33,9 +33,9 @@ enum class OnFocus {
 
 enum class LeavingTest {
   NoTest,
-  NonZero,            // the reading must not be 0; an empty field counts as 0
+  NonZero,  // the reading must not be 0; an empty field counts as 0
   NonZeroUnlessReadOnly,
-  NonZeroSdOrD,       // one of `txtsd` and `txtd` must read as non-zero
+  NonZeroSdOrD,  // one of `txtsd` and `txtd` must read as non-zero
 };
 
 enum class ZeroText {

@@ -391,7 +391,8 @@ static_assert(Ascending(), "the look-up below needs the rows in the order of the
 }  // namespace
 
 std::string_view MessageText(int id, Language language) {
-  const auto row = std::lower_bound(kRows.begin(), kRows.end(), id, [](const Row& r, int wanted) { return r.id < wanted; });
+  const auto row =
+      std::lower_bound(kRows.begin(), kRows.end(), id, [](const Row& r, int wanted) { return r.id < wanted; });
   assert(row != kRows.end() && row->id == id);
   if (row == kRows.end() || row->id != id) return {};
   return language == Language::Italian ? row->italian : row->english;

@@ -174,16 +174,15 @@ std::string FormatNumberFull(double value) {
 
 std::string PlainNumber(double value) {
   std::array<char, 40> buffer{};
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::general,
-                                 kSignificantDigits)
-                       .ptr;
+  const auto end =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::general, kSignificantDigits)
+          .ptr;
   return {buffer.data(), end};
 }
 
 std::string FormatTwoDecimals(double value) {
   std::array<char, 400> buffer{};
-  const auto end =
-      std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, 2).ptr;
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, 2).ptr;
   std::string text(buffer.data(), end);
   return text == "-0.00" ? "0.00" : text;
 }
@@ -201,8 +200,8 @@ std::string CommaToPoint(std::string text) {
 std::string CleanLineBreaks(std::string text) {
   const std::size_t scanned = TrimBlanks(text).size();
   std::replace_if(
-      text.begin(), text.begin() + static_cast<std::ptrdiff_t>(scanned),
-      [](char c) { return c == '\r' || c == '\n'; }, ' ');
+      text.begin(), text.begin() + static_cast<std::ptrdiff_t>(scanned), [](char c) { return c == '\r' || c == '\n'; },
+      ' ');
   return text;
 }
 

@@ -8,13 +8,11 @@
 
 namespace zefirondo {
 
-Windows::Windows(ProjectState& state)
-    : mdithsm(state), frmthsm(state), frmgrafcassa(state), frmdimensioni(state) {}
+Windows::Windows(ProjectState& state) : mdithsm(state), frmthsm(state), frmgrafcassa(state), frmdimensioni(state) {}
 
 Program::Program(Platform& the_platform, Language the_language, std::filesystem::path the_folder)
     : windows(state), platform(the_platform), language(the_language), folder(std::move(the_folder)) {
-  all = {&windows.mdithsm.window, &windows.frmthsm.window, &windows.frmgrafcassa.window,
-         &windows.frmdimensioni.window};
+  all = {&windows.mdithsm.window, &windows.frmthsm.window, &windows.frmgrafcassa.window, &windows.frmdimensioni.window};
   for (Window* const window : all) ApplyDesign(*window, language);
 }
 

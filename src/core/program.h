@@ -37,7 +37,7 @@ struct Program {
   Language language;
   std::filesystem::path folder;  // the folder of the program; projects, traces and measurements lie below it
 
-  std::string command_line;      // the path of a project to open, as the desktop handed it over
+  std::string command_line;  // the path of a project to open, as the desktop handed it over
 
   std::vector<Window*> all;    // every window, in a fixed order
   std::vector<Window*> order;  // the open windows, front first, the frame last

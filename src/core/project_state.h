@@ -28,41 +28,41 @@ struct ProjectState {
   std::string cmbnumvc;
 
   // Page "par": the Thiele-Small parameters.
-  std::string txtzmax, txtzmin;                              // ohm
-  std::string txtfs, txtfl, txtfh;                           // Hz
-  std::string txtrvc;                                        // ohm
-  std::string txtqmesin;                                     // the Qms that is typed or imported
-  std::string txtbw;                                         // Hz
-  std::string txtbl;                                         // T·m
-  std::string txtd;                                          // mm
-  std::string txtsd;                                         // m²
-  std::string txtlces;                                       // mH
-  std::string txtcmes;                                       // µF
-  std::string txtrmes;                                       // ohm
-  std::string txtqmes, txtqes, txtqts;                       // Q factors
-  std::string txtcms;                                        // m/N
-  std::string txtmms;                                        // kg
-  std::string txtrms;                                        // N·s/m
-  std::string txtcas, txtmas, txtras;                        // m⁵/N, kg/m⁴, N·s/m⁵
-  std::string txtvas;                                        // m³
+  std::string txtzmax, txtzmin;         // ohm
+  std::string txtfs, txtfl, txtfh;      // Hz
+  std::string txtrvc;                   // ohm
+  std::string txtqmesin;                // the Qms that is typed or imported
+  std::string txtbw;                    // Hz
+  std::string txtbl;                    // T·m
+  std::string txtd;                     // mm
+  std::string txtsd;                    // m²
+  std::string txtlces;                  // mH
+  std::string txtcmes;                  // µF
+  std::string txtrmes;                  // ohm
+  std::string txtqmes, txtqes, txtqts;  // Q factors
+  std::string txtcms;                   // m/N
+  std::string txtmms;                   // kg
+  std::string txtrms;                   // N·s/m
+  std::string txtcas, txtmas, txtras;   // m⁵/N, kg/m⁴, N·s/m⁵
+  std::string txtvas;                   // m³
 
   // Page "dim": mm, the volume in litres.
   std::string txtforo, txtprof, txtlagmagne, txtprofmag, txtesterno, txtspesbordo, txtdiambob, txtvolume;
 
   // The box page.
-  std::string cmballi;                            // Qtc of the closed box
-  std::string cmbql;                              // QL of the vented box
-  std::string cmbforma, cmbrappo, cmbgradi;       // shape, ratio, tilt in degrees
-  std::string txtl, txth, txtp, txtld;            // cm
-  std::string txtboxvolume;                       // litres
-  std::string cmbnumcond;                         // number of ports
-  std::string txtlungmis, txtlungappa;            // cm
-  std::string cmbDoa, txtb;                       // cm
-  std::string txtareasez, txtseztot, txtminsv;    // cm²
-  std::string cmbnumdriver;                       // number of transducers
+  std::string cmballi;                                           // Qtc of the closed box
+  std::string cmbql;                                             // QL of the vented box
+  std::string cmbforma, cmbrappo, cmbgradi;                      // shape, ratio, tilt in degrees
+  std::string txtl, txth, txtp, txtld;                           // cm
+  std::string txtboxvolume;                                      // litres
+  std::string cmbnumcond;                                        // number of ports
+  std::string txtlungmis, txtlungappa;                           // cm
+  std::string cmbDoa, txtb;                                      // cm
+  std::string txtareasez, txtseztot, txtminsv;                   // cm²
+  std::string cmbnumdriver;                                      // number of transducers
   std::string txtvolnetto, txtingombro, txtvoloccu, txtvolappa;  // litres
-  std::string txtfb, txtfstrasdu, txtfreriso;     // Hz
-  std::string cmbk;                               // Cp/Cv by the filling of the box
+  std::string txtfb, txtfstrasdu, txtfreriso;                    // Hz
+  std::string cmbk;                                              // Cp/Cv by the filling of the box
 
   // Page "imp": empty until the page is first opened or a file fills it.
   std::string txttemperatura;  // °C
@@ -70,7 +70,7 @@ struct ProjectState {
   std::string txtvelocita;     // m/s
 
   // The air.
-  double Temperature = 25.0;  // °C
+  double Temperature = 25.0;   // °C
   double Pressure = 101325.0;  // Pa
   double roo = 0.0;            // kg/m³
   double Velocity = 0.0;       // m/s
@@ -99,7 +99,7 @@ struct ProjectState {
   double Vc = 0.0;         // m³, net, closed
   double VbaClosed = 0.0;  // m³, apparent
   double VbaVented = 0.0;
-  double Vba = 0.0;        // the last one computed
+  double Vba = 0.0;         // the last one computed
   double WidthPrism = 0.0;  // cm
   double HeightPrism = 0.0;
   double DepthPrism = 0.0;
@@ -114,7 +114,7 @@ struct ProjectState {
   double AlfaSecond = 0.0;             // Fb/Fs of the alignment chart
   double ValRangeLow = 0.0;            // Hz, the two frequencies of the component value tools
   double ValRangeHigh = 0.0;
-  double ValResult = 0.0;              // ohm
+  double ValResult = 0.0;  // ohm
 
   // The tops of the vertical scales.
   std::int16_t BoxScaleTop = 0;
@@ -122,7 +122,7 @@ struct ProjectState {
   std::int16_t ImpScaleTop = 0;
 
   // The curves.
-  Curve ImpFreq, ImpZ;  // Hz and ohm
+  Curve ImpFreq, ImpZ;   // Hz and ohm
   Curve BoxFreq, BoxDb;  // level + 40
   Curve SplFreq, SplDb;
   Curve SplMaxFreq, SplMaxDb;

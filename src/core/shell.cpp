@@ -66,7 +66,8 @@ void frmthsm_Load(Program& program) {
   if (s.txtingombro.empty()) AssignText(program, sheet.txtingombro, "0");
   s.DesignChanged = s.ProjectModified = s.FilterComputed = false;
 
-  sheet.tabs = {{"gen", program.Text(400)}, {"par", program.Text(401)}, {"dim", program.Text(402)}, {"imp", program.Text(403)}};
+  sheet.tabs = {
+      {"gen", program.Text(400)}, {"par", program.Text(401)}, {"dim", program.Text(402)}, {"imp", program.Text(403)}};
   sheet.selected_tab = "gen";
   sheet.LastTilt = 0.0;
   sheet.TempBefore.clear();
@@ -188,10 +189,9 @@ void Set_Caselle_inserimento(Program& program) {
     field->locked = true;
     field->back = colour::kGrey;
   }
-  for (Control* const field :
-       {&sheet.txtlces, &sheet.txtcmes, &sheet.txtrmes, &sheet.txtqmes, &sheet.txtzmin, &sheet.txtcms, &sheet.txtrms,
-        &sheet.txtlungappa, &sheet.txtareasez, &sheet.txtcas, &sheet.txtmas, &sheet.txtras, &sheet.txtfl,
-        &sheet.txtfh}) {
+  for (Control* const field : {&sheet.txtlces, &sheet.txtcmes, &sheet.txtrmes, &sheet.txtqmes, &sheet.txtzmin,
+                               &sheet.txtcms, &sheet.txtrms, &sheet.txtlungappa, &sheet.txtareasez, &sheet.txtcas,
+                               &sheet.txtmas, &sheet.txtras, &sheet.txtfl, &sheet.txtfh}) {
     field->locked = true;
   }
   for (Control* const field : {&sheet.txtqes, &sheet.txtqts, &sheet.txtmms, &sheet.txtvas}) {
@@ -204,10 +204,11 @@ namespace {
 void SetTransducerFieldsLocked(Program& program, bool locked) {
   Sheet& sheet = program.windows.frmthsm;
   for (Control* const field :
-       {&sheet.txtzmax, &sheet.txtfs, &sheet.txtrvc, &sheet.txtqmesin, &sheet.txtbw, &sheet.txtbl, &sheet.txtd,
-        &sheet.txtsd, &sheet.txtforo, &sheet.txtprof, &sheet.txtlagmagne, &sheet.txtprofmag, &sheet.txtesterno,
-        &sheet.txtdiambob, &sheet.txtpotenza, &sheet.txtimpedenza, &sheet.txtsensibilita, &sheet.txthg, &sheet.txtxmax,
-        &sheet.txtrendimento, &sheet.txtle, &sheet.cmbnumvc, &sheet.txtspesbordo}) {
+       {&sheet.txtzmax,      &sheet.txtfs,          &sheet.txtrvc,      &sheet.txtqmesin,  &sheet.txtbw,
+        &sheet.txtbl,        &sheet.txtd,           &sheet.txtsd,       &sheet.txtforo,    &sheet.txtprof,
+        &sheet.txtlagmagne,  &sheet.txtprofmag,     &sheet.txtesterno,  &sheet.txtdiambob, &sheet.txtpotenza,
+        &sheet.txtimpedenza, &sheet.txtsensibilita, &sheet.txthg,       &sheet.txtxmax,    &sheet.txtrendimento,
+        &sheet.txtle,        &sheet.cmbnumvc,       &sheet.txtspesbordo}) {
     field->locked = locked;
   }
   sheet.mnuannullasequenza.enabled = sheet.mnuannulla.enabled = !locked;

@@ -38,7 +38,7 @@ struct StripLabel {
 
 struct Surface {
   Scale scale;
-  double twips_width = 0.0;   // the size that the read-out's placing reckons with
+  double twips_width = 0.0;  // the size that the read-out's placing reckons with
   double twips_height = 0.0;
   std::vector<Stroke> strokes;
   std::vector<Point> points;

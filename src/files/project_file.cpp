@@ -26,7 +26,7 @@ struct FieldLine {
   std::string_view key;
   Control Sheet::*field;
   std::string_view when_empty = {};
-  Control Sheet::*also = nullptr;        // filled from the same line
+  Control Sheet::*also = nullptr;          // filled from the same line
   double ProjectState::*number = nullptr;  // takes the reading of the line
 };
 
@@ -34,7 +34,6 @@ constexpr auto kMakerLines = std::to_array<FieldLine>({
     {"Manufacturer=", &Sheet::txtproduttore},
     {"Brand=", &Sheet::txtmarca},
     {"Model=", &Sheet::txtmodello},
-    {"ProvidedBy=", &Sheet::txtdatifor},
 });
 
 constexpr auto kRatingLines = std::to_array<FieldLine>({
@@ -122,14 +121,15 @@ enum class Section { None, Closed, Vented };
 
 /// What the two ways of saving write differently; the differences are wanted.
 struct Dialect {
-  std::string no_temperature;     // the line of an empty temperature
-  std::string closed_of_two;      // the section's first line while both box tabs stand
+  std::string no_temperature;  // the line of an empty temperature
+  std::string closed_of_two;   // the section's first line while both box tabs stand
   std::string vented_of_two;
 };
 
 class ProjectWriter {
  public:
-  explicit ProjectWriter(Program& program) : program_(program), state_(program.state), sheet_(program.windows.frmthsm) {}
+  explicit ProjectWriter(Program& program)
+      : program_(program), state_(program.state), sheet_(program.windows.frmthsm) {}
 
   std::string Write(const Dialect& dialect) {
     WriteHead(dialect);
@@ -160,6 +160,7 @@ class ProjectWriter {
 
   void WriteHead(const Dialect& dialect) {
     Fields(kMakerLines);
+    Field({"ProvidedBy=", &Sheet::txtdatifor});
     const std::string today = DateText(program_.platform.Today());
     Line("DateAdded=", today);  // not the date that the sheet shows, as wanted
     Line("DateModified=", today);
@@ -285,6 +286,7 @@ class ProjectReader {
   void ReadHead() {
     Fields(kMakerLines);
     ShowModelName(program_);
+    Field({"ProvidedBy=", &Sheet::txtdatifor});
     ReadDate();
     file_.ReadLine();  // DateModified
     Field({"Comment=", &Sheet::txtcommento});

@@ -16,6 +16,7 @@ namespace zefirondo {
 namespace {
 
 constexpr std::size_t kBufferSize = 1U << 16U;
+constexpr int kMostLinks = 40;  // as many as the system follows itself
 
 struct ErrnoRow {
   int error;
@@ -45,7 +46,8 @@ constexpr std::array kErrors = std::to_array<ErrnoRow>({
 class TemporaryFile {
  public:
   explicit TemporaryFile(const std::filesystem::path& target) {
-    std::string pattern = (target.parent_path() / ("." + target.filename().string() + ".XXXXXX")).string();
+    // A name of its own: one made from the target's could be too long for the folder.
+    std::string pattern = (target.parent_path() / ".zefirondo-XXXXXX").string();
     descriptor_ = ::mkstemp(pattern.data());
     if (descriptor_ < 0) ThrowErrno(errno);
     path_ = pattern;
@@ -103,15 +105,23 @@ void FlushFolder(const std::filesystem::path& folder) {
   ::close(descriptor);
 }
 
+/// Follows a link to what it points to, which need not exist; a circle of links has no end.
+std::filesystem::path FollowLinks(std::filesystem::path target) {
+  std::error_code error;
+  for (int link = 0; std::filesystem::is_symlink(target, error); ++link) {
+    const std::filesystem::path next = std::filesystem::read_symlink(target, error);
+    if (error || link == kMostLinks) throw RunTimeError(ErrorNumber::PathAccess);
+    target = target.parent_path() / next;
+  }
+  return target;
+}
+
 /// The file that a path means: a link is followed, so that a save replaces what it points to.
 std::filesystem::path ResolveTarget(const std::filesystem::path& path) {
   std::error_code error;
-  std::filesystem::path target = std::filesystem::absolute(path, error);
+  const std::filesystem::path whole = std::filesystem::absolute(path, error);
   if (error) throw RunTimeError(ErrorNumber::PathAccess);
-  if (std::filesystem::is_symlink(target, error)) {
-    std::filesystem::path resolved = std::filesystem::weakly_canonical(target, error);
-    if (!error) target = std::move(resolved);
-  }
+  const std::filesystem::path target = FollowLinks(whole);
   if (!std::filesystem::exists(target, error)) return target;
   // What is no regular file (a folder, a device, a pipe) is never replaced.
   if (!std::filesystem::is_regular_file(target, error)) throw RunTimeError(ErrorNumber::PathAccess);
@@ -125,10 +135,13 @@ std::FILE* OpenRegularFile(const std::filesystem::path& path) {
   // Opened without waiting, so that a pipe cannot hold the program.
   const int descriptor = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
   if (descriptor < 0) {
-    if (errno == ENOENT && (path.parent_path().empty() || std::filesystem::is_directory(path.parent_path()))) {
+    const int failure = errno;
+    std::error_code error;
+    const std::filesystem::path folder = path.parent_path();
+    if (failure == ENOENT && (folder.empty() || std::filesystem::is_directory(folder, error))) {
       throw RunTimeError(ErrorNumber::FileNotFound);
     }
-    ThrowErrno(errno);
+    ThrowErrno(failure);
   }
   struct stat info {};
   if (::fstat(descriptor, &info) != 0 || !S_ISREG(info.st_mode)) {

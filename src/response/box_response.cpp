@@ -11,8 +11,8 @@
 namespace zefirondo {
 namespace {
 
-constexpr double kLeft = 20;       // 10 Hz
-constexpr double kWidth = 53.96;   // to 4984 Hz
+constexpr double kLeft = 20;      // 10 Hz
+constexpr double kWidth = 53.96;  // to 4984 Hz
 constexpr double kZeroDecibel = 40;
 
 /// One of the two stored traces of the box graph.
@@ -26,11 +26,19 @@ struct Slot {
   int colour;
 };
 
-constexpr Slot kSlot1{&ProjectState::Set1BoxFreq,   &ProjectState::Set1BoxDb,           &ProjectState::Set1BoxStored,
-                      &ProjectState::Set1BoxShown,  &BoxResponse::chkonoff1, &BoxResponse::mnusalvatracciatorosso,
+constexpr Slot kSlot1{&ProjectState::Set1BoxFreq,
+                      &ProjectState::Set1BoxDb,
+                      &ProjectState::Set1BoxStored,
+                      &ProjectState::Set1BoxShown,
+                      &BoxResponse::chkonoff1,
+                      &BoxResponse::mnusalvatracciatorosso,
                       colour::kRed};
-constexpr Slot kSlot2{&ProjectState::Set2BoxFreq,   &ProjectState::Set2BoxDb,         &ProjectState::Set2BoxStored,
-                      &ProjectState::Set2BoxShown,  &BoxResponse::chkonoff2, &BoxResponse::mnusalvatracciatoblu,
+constexpr Slot kSlot2{&ProjectState::Set2BoxFreq,
+                      &ProjectState::Set2BoxDb,
+                      &ProjectState::Set2BoxStored,
+                      &ProjectState::Set2BoxShown,
+                      &BoxResponse::chkonoff2,
+                      &BoxResponse::mnusalvatracciatoblu,
                       colour::kBlue};
 
 void DrawSlot(Program& program, const Slot& slot) {

@@ -9,9 +9,9 @@
 namespace zefirondo {
 namespace {
 
-constexpr int kZeroDecibel = 40;      // a box level of 0 dB is stored as 40
-constexpr double kBoxGridLeft = 20;   // the x at the left edge of the box plot
-constexpr int kBoxGridLimit = 5000;   // Hz
+constexpr int kZeroDecibel = 40;     // a box level of 0 dB is stored as 40
+constexpr double kBoxGridLeft = 20;  // the x at the left edge of the box plot
+constexpr int kBoxGridLimit = 5000;  // Hz
 
 /// How many points of a curve with this many slots are drawn.
 std::size_t DrawnPoints(std::size_t slots) { return slots >= 4 ? slots - 2 : 0; }

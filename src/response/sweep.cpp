@@ -10,7 +10,7 @@
 namespace zefirondo {
 namespace {
 
-constexpr double kBoxOffset = 40.0;   // 0 dB is stored as 40
+constexpr double kBoxOffset = 40.0;  // 0 dB is stored as 40
 constexpr int kBoxHeadroom = 25;
 
 SweepGrid MakeGrid() {
@@ -24,6 +24,11 @@ SweepGrid MakeGrid() {
     grid.x.push_back(20 * Log10(f));
   }
   return grid;
+}
+
+void EraseBoxCurve(ProjectState& state) {
+  state.BoxFreq.clear();
+  state.BoxDb.clear();
 }
 
 }  // namespace
@@ -51,16 +56,10 @@ VentedResponse::VentedResponse(double vb, double fs_hertz, double qts, double fb
 
 namespace detail {
 
-void CheckPoint() {
+void CheckPoint(double squared_magnitude) {
   if (std::fetestexcept(FE_OVERFLOW) != 0) throw RunTimeError(ErrorNumber::Overflow);
   if (std::fetestexcept(FE_DIVBYZERO | FE_INVALID) != 0) throw RunTimeError(ErrorNumber::DivisionByZero);
-}
-
-void ThrowLevelFailure(const std::vector<double>& squared_magnitudes) {
-  const bool no_logarithm =
-      std::any_of(squared_magnitudes.begin(), squared_magnitudes.end(), [](double g) { return !(g > 0.0); });
-  if (no_logarithm) throw LogarithmError();
-  throw RunTimeError(ErrorNumber::Overflow);
+  if (!(squared_magnitude > 0.0)) throw LogarithmError();
 }
 
 void FinishLevels(Curve& levels, std::size_t points, double offset, LevelSweep& sweep) {
@@ -80,11 +79,13 @@ void FinishLevels(Curve& levels, std::size_t points, double offset, LevelSweep& 
 std::int16_t ScaleTop(double maximum, int headroom) { return ToInteger(RoundHalfEven(maximum) + headroom); }
 
 void RispostaChiusa(ProjectState& state, double qtc, double fc) {
+  EraseBoxCurve(state);
   const LevelSweep sweep = SweepLevels(ClosedResponse(qtc, fc), kPointsTo5k, kBoxOffset, state.BoxFreq, state.BoxDb);
   state.BoxScaleTop = ScaleTop(sweep.maximum, kBoxHeadroom);
 }
 
 void RispostaReflex(ProjectState& state, double vb, double fs, double qts, double fb, double vas_total) {
+  EraseBoxCurve(state);  // also when the design has no curve
   const VentedResponse response(vb, fs, qts, fb, vas_total, state.Ql);
   const LevelSweep sweep = SweepLevels(response, kPointsTo5k, kBoxOffset, state.BoxFreq, state.BoxDb);
   state.BoxScaleTop = ScaleTop(sweep.maximum, kBoxHeadroom);

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/project_state.h"
+#include "core/run_time_error.h"
 
 namespace zefirondo {
 
@@ -68,14 +69,14 @@ struct VentedResponse {
 };
 
 namespace detail {
-[[noreturn]] void ThrowLevelFailure(const std::vector<double>& squared_magnitudes);
-void CheckPoint();
+void CheckPoint(double squared_magnitude);
 void FinishLevels(Curve& levels, std::size_t points, double offset, LevelSweep& sweep);
 }  // namespace detail
 
 /// Fills a curve with 10·Log10(G²) + `offset` over the first `points` of the grid, and the zero slot behind
 /// them. The arithmetic runs unguarded; the floating-point flags tell at the end whether it failed, and then
-/// the first point that failed decides what is thrown: `RunTimeError` or `LogarithmError`.
+/// the first point that failed decides what is thrown: `RunTimeError` or `LogarithmError`. A failed sweep
+/// leaves no curve behind.
 template <class SquaredMagnitude>
 LevelSweep SweepLevels(const SquaredMagnitude& response, std::size_t points, double offset, Curve& abscissa,
                        Curve& levels) {
@@ -89,13 +90,14 @@ LevelSweep SweepLevels(const SquaredMagnitude& response, std::size_t points, dou
   detail::FinishLevels(levels, points, offset, sweep);
   if (std::fetestexcept(FE_DIVBYZERO | FE_INVALID | FE_OVERFLOW) == 0) return sweep;
 
+  abscissa.clear();
+  levels.resize(1);  // each point goes through memory, so that its flags are raised before they are read
   for (std::size_t i = 0; i < points; ++i) {
     std::feclearexcept(FE_ALL_EXCEPT);
-    levels[i] = response(hertz[i]);
-    detail::CheckPoint();
-    if (!(levels[i] > 0.0)) break;
+    levels[0] = response(hertz[i]);
+    detail::CheckPoint(levels[0]);
   }
-  detail::ThrowLevelFailure(levels);
+  throw RunTimeError(ErrorNumber::Overflow);
 }
 
 /// The top of a level scale: the largest value rounded, ties to even, and `headroom` above it.

@@ -45,7 +45,7 @@ int DaysInMonth(int month, int year) {
 
 std::optional<zefirondo::Date> ReadDate(std::string_view text) {
   zefirondo::Date date;
-  if (text.size() != 10 || text[2] != '/' || text[5] != '/') return std::nullopt;
+  if (text.size() != 10 || text[2] != '/' || text[5] != '/' || text[6] == '-') return std::nullopt;
   if (!ReadWhole(text.substr(0, 2), date.day) || !ReadWhole(text.substr(3, 2), date.month) ||
       !ReadWhole(text.substr(6), date.year)) {
     return std::nullopt;
@@ -75,7 +75,10 @@ bool TakeOption(std::string_view option, const std::string& value, zefirondo::Sc
     if (date) options.today = *date;
     return date.has_value();
   }
-  return option == "--screen-width" && ReadWhole(value, options.screen_width) && options.screen_width >= 0;
+  int pixels = 0;
+  if (option != "--screen-width" || !ReadWhole(value, pixels)) return false;
+  options.screen_width = pixels;
+  return pixels >= 0;
 }
 
 std::optional<Arguments> ReadArguments(const std::vector<std::string>& words) {

@@ -201,6 +201,12 @@ double ReadScriptNumber(const std::string& word) {
   return value;
 }
 
+double ReadIndex(const std::string& word) {
+  const double index = ReadScriptNumber(word);
+  if (index < 0 || index != std::floor(index)) throw ScriptError(word + " is no index");
+  return index;
+}
+
 // ---- doing ----
 
 void Script::DoStart(Words words) {
@@ -273,9 +279,7 @@ void Script::DoClick(Words words) {
   Report(words[0], Click(program_, control));
 }
 
-void Script::DoDoubleClick(Words words) {
-  Report(words[0], DoubleClick(program_, FindControl(program_, words[0])));
-}
+void Script::DoDoubleClick(Words words) { Report(words[0], DoubleClick(program_, FindControl(program_, words[0]))); }
 
 void Script::DoRightClick(Words words) { Report(words[0], RightClick(program_, FindControl(program_, words[0]))); }
 
@@ -308,8 +312,11 @@ void Script::DoClipboard(Words words) {
     platform_.clipboard.clear();
     return;
   }
+  std::error_code error;
   std::ifstream file(words[0], std::ios::binary);
-  if (!file) throw ScriptError("the file " + words[0] + " cannot be read");
+  if (!file || std::filesystem::is_directory(words[0], error)) {
+    throw ScriptError("the file " + words[0] + " cannot be read");
+  }
   platform_.clipboard.assign(std::istreambuf_iterator<char>(file), {});
 }
 
@@ -475,9 +482,9 @@ void Script::AskCurve(Words words) {
   Print(words[0] + " upper=" + std::to_string(static_cast<long long>(curve.size()) - 1));
   if (curve.empty()) return;
   const double upper = static_cast<double>(curve.size() - 1);
-  const double first = words.size() > 1 ? ReadScriptNumber(words[1]) : 0.0;
-  const double last = words.size() > 2 ? ReadScriptNumber(words[2]) : (words.size() > 1 ? first : upper);
-  for (double i = std::max(first, 0.0); i <= std::min(last, upper); ++i) {
+  const double first = words.size() > 1 ? ReadIndex(words[1]) : 0.0;
+  const double last = words.size() > 2 ? ReadIndex(words[2]) : (words.size() > 1 ? first : upper);
+  for (double i = first; i <= std::min(last, upper); ++i) {
     const auto index = static_cast<std::size_t>(i);
     Print(words[0] + "(" + std::to_string(index) + ") = " + NumberText(curve[index]));
   }
@@ -486,8 +493,8 @@ void Script::AskCurve(Words words) {
 void Script::AskSurface(Words words) {
   const Control& plot = Plot(words[0]);
   const Surface& surface = *plot.surface;
-  Print("surface " + words[0] + " left=" + NumberText(surface.scale.left) + " width=" + NumberText(surface.scale.width) +
-        " height=" + NumberText(surface.scale.height));
+  Print("surface " + words[0] + " left=" + NumberText(surface.scale.left) +
+        " width=" + NumberText(surface.scale.width) + " height=" + NumberText(surface.scale.height));
   for (const Stroke& stroke : surface.strokes) {
     for (std::size_t i = stroke.first; i + 1 < stroke.first + stroke.count; ++i) {
       const Point& a = surface.points[i];

@@ -10,6 +10,7 @@
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QTabBar>
+#include <algorithm>
 
 #include "core/acts.h"
 #include "core/fields.h"
@@ -33,11 +34,16 @@ bool WithCommand(const QKeyEvent& event) {
 
 bool IsPlainBackspace(const QKeyEvent& event) { return event.key() == Qt::Key_Backspace && !WithCommand(event); }
 
-/// Whether a key enters a character.
-bool Types(const QKeyEvent& event) {
+bool HasCharacter(const QKeyEvent& event) {
   const QList<uint> characters = event.text().toUcs4();
-  return !characters.isEmpty() && QChar::isPrint(characters.front()) && !WithCommand(event);
+  return !characters.isEmpty() && QChar::isPrint(characters.front());
 }
+
+/// Whether a key enters a character.
+bool Types(const QKeyEvent& event) { return HasCharacter(event) && !WithCommand(event); }
+
+/// A mnemonic that leads nowhere at the moment: a field would take it for its letter.
+bool IsIdleMnemonic(const QKeyEvent& event) { return HasCharacter(event) && (event.modifiers() & Qt::AltModifier) != 0; }
 
 bool OpensList(const QKeyEvent& event) {
   switch (event.key()) {
@@ -48,6 +54,14 @@ bool OpensList(const QKeyEvent& event) {
     case Qt::Key_F4: return true;
     default: return false;
   }
+}
+
+bool IsBackTab(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Backtab || (event.modifiers() & Qt::ShiftModifier) != 0;
+}
+
+bool IsTab(const QKeyEvent& event) {
+  return (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab) && !WithCommand(event);
 }
 
 bool IsArrow(const QKeyEvent& event) {
@@ -81,7 +95,10 @@ void Binder::BindWords(Pair& field, QLabel* words, QLabel* unit) {
   words->installEventFilter(this);
 }
 
-void Binder::WatchGround(QWidget* ground) { ground->installEventFilter(this); }
+void Binder::WatchGround(QWidget* ground, Window& window) {
+  grounds_.insert(ground, &window);
+  ground->installEventFilter(this);
+}
 
 void Binder::Watch(QObject* object, Pair& pair) {
   watched_.insert(object, &pair);
@@ -117,7 +134,8 @@ bool Binder::eventFilter(QObject* object, QEvent* event) {
   if (!stage_.Listening()) return false;
   if (event->type() == QEvent::Shortcut && LabelShortcut(object)) return true;
   if (Pair* const pair = watched_.value(object)) return pair->widget->isEnabled() && WidgetEvent(*pair, object, *event);
-  return event->type() == QEvent::KeyPress && GroundKey(*static_cast<QKeyEvent*>(event));
+  Window* const window = grounds_.value(object);
+  return window != nullptr && event->type() == QEvent::KeyPress && GroundKey(*window, *static_cast<QKeyEvent*>(event));
 }
 
 /// The mnemonic of a label leads to its field, as a person's act.
@@ -249,17 +267,11 @@ bool Binder::KeyPressed(Pair& pair, const QKeyEvent& event) {
 bool Binder::CommonKey(Pair& pair, const QKeyEvent& event) {
   Program& program = stage_.program;
   Control& control = *pair.control;
-  const bool with_control = (event.modifiers() & Qt::ControlModifier) != 0;
-  if ((event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab) && !WithCommand(event)) {
-    const bool back = event.key() == Qt::Key_Backtab || (event.modifiers() & Qt::ShiftModifier) != 0;
-    stage_.Act([&] { back ? PressBackTab(program) : PressKey(program, key::kTab); });
+  if (IsTab(event)) {
+    stage_.Act([&] { IsBackTab(event) ? PressBackTab(program) : PressKey(program, key::kTab); });
     return true;
   }
-  const bool page_key = event.key() == Qt::Key_PageUp || event.key() == Qt::Key_PageDown;
-  if (page_key && with_control && control.window == &program.windows.frmthsm.window) {
-    SelectNeighbourTab(event.key() == Qt::Key_PageUp ? -1 : +1);
-    return true;
-  }
+  if (SheetKey(*control.window, event)) return true;
   if (event.key() == Qt::Key_F2 && control.on.double_click != nullptr) {
     stage_.Act([&] { DoubleClick(program, control); });
     return true;
@@ -270,6 +282,7 @@ bool Binder::CommonKey(Pair& pair, const QKeyEvent& event) {
 bool Binder::FieldKey(Pair& pair, const QKeyEvent& event) {
   const Control& control = *pair.control;
   if (control.kind == ControlKind::ComboBox && control.locked && OpensList(event)) return true;
+  if (IsIdleMnemonic(event)) return true;
   if (IsEnter(event)) {
     if (Arrive(pair)) Press(key::kEnter);
     return true;
@@ -286,22 +299,29 @@ bool Binder::ButtonKey(Pair& pair, const QKeyEvent& event) {
   return pushes || IsArrow(event);
 }
 
-bool Binder::GroundKey(const QKeyEvent& event) {
-  Pair nowhere;
-  Control* const focus = stage_.program.focus;
-  if (focus == nullptr) return event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
-  nowhere.control = focus;
-  if (CommonKey(nowhere, event)) return true;
-  if (IsEnter(event)) {
-    Press(key::kEnter);
-  } else if (IsPlainBackspace(event)) {
-    Press(key::kBackspace);
-  } else if (Types(event)) {
-    TypeText(event.text());
-  } else {
-    return false;
-  }
+/// The page keys with Ctrl turn the pages of the sheet.
+bool Binder::SheetKey(const Window& window, const QKeyEvent& event) {
+  const bool page_key = event.key() == Qt::Key_PageUp || event.key() == Qt::Key_PageDown;
+  const bool sheet = &window == &stage_.program.windows.frmthsm.window;
+  if (!sheet || !page_key || (event.modifiers() & Qt::ControlModifier) == 0) return false;
+  SelectNeighbourTab(event.key() == Qt::Key_PageUp ? -1 : +1);
   return true;
+}
+
+bool Binder::GroundKey(Window& window, const QKeyEvent& event) {
+  if (IsTab(event)) EnterWindow(window, IsBackTab(event));
+  return IsTab(event) || SheetKey(window, event);
+}
+
+/// Leads to the first control of the window that a person can reach, or to the last.
+void Binder::EnterWindow(Window& window, bool backwards) {
+  Program& program = stage_.program;
+  std::vector<Control*> controls = window.controls;
+  if (backwards) std::reverse(controls.begin(), controls.end());
+  const auto first = std::find_if(controls.begin(), controls.end(), [&](const Control* control) {
+    return control->TakesFocus() && WhyNot(program, *control) == Refusal::None;
+  });
+  if (first != controls.end()) stage_.Act([&] { Focus(program, **first); });
 }
 
 void Binder::SelectTabAt(int place) {

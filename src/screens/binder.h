@@ -34,8 +34,8 @@ class Binder : public QObject {
   /// Ties the words beside a field, and behind it.
   void BindWords(Pair& field, QLabel* words, QLabel* unit);
 
-  /// Keys that reach this widget go to the control that has the focus.
-  void WatchGround(QWidget* ground);
+  /// Answers the keys that reach a window while none of its controls has the focus: Tab leads into it.
+  void WatchGround(QWidget* ground, Window& window);
 
   /// Has a routine run each time after the widgets were brought in line, for what is no widget of a control.
   void Follow(std::function<void()> routine) { followers_.push_back(std::move(routine)); }
@@ -61,7 +61,9 @@ class Binder : public QObject {
   bool CommonKey(Pair& pair, const QKeyEvent& event);
   bool FieldKey(Pair& pair, const QKeyEvent& event);
   bool ButtonKey(Pair& pair, const QKeyEvent& event);
-  bool GroundKey(const QKeyEvent& event);
+  bool GroundKey(Window& window, const QKeyEvent& event);
+  bool SheetKey(const Window& window, const QKeyEvent& event);
+  void EnterWindow(Window& window, bool backwards);
   void SelectNeighbourTab(int step);
   void SelectTabAt(int place);
   bool Arrive(Pair& pair);
@@ -72,6 +74,7 @@ class Binder : public QObject {
   Stage& stage_;
   std::vector<std::unique_ptr<Pair>> pairs_;
   QHash<const QObject*, Pair*> watched_;
+  QHash<const QObject*, Window*> grounds_;
   QHash<const Control*, Pair*> by_control_;
   std::vector<std::function<void()>> followers_;
   const QObject* swallowed_ = nullptr;  // the widget whose last press was kept from it

@@ -131,10 +131,10 @@ void BuildBoxPage(Binder& binder, QWidget* page, QVBoxLayout& column) {
   first->addWidget(MakeChoice(binder, sheet.fraql, sheet.lblperdita, sheet.cmbql, page));
   first->addStretch(1);
   row->addLayout(first);
-  row->addWidget(MakeDimensions(binder, sheet, page), 0, Qt::AlignTop);
+  row->addWidget(MakeDimensions(binder, sheet, page));
   QWidget* const ports = MakePorts(binder, sheet, page);
   KeepPlace(ports);
-  row->addWidget(ports, 0, Qt::AlignTop);
+  row->addWidget(ports);
   row->addStretch(1);
   column.addLayout(row);
   column.addStretch(1);

@@ -9,8 +9,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "core/fields.h"
-
 namespace zefirondo::screens {
 namespace {
 
@@ -18,10 +16,7 @@ constexpr int kNumberWidth = 11;  // digits: the longest number is "123.456E-06"
 constexpr int kFieldFrame = 14;   // pixels of frame and margins around a field's text
 constexpr int kComboArrow = 16;   // pixels that the arrow of a combo box needs more
 constexpr int kFieldGap = 6;
-
-bool HoldsNumber(const Control& control) {
-  return control.rules != nullptr && control.rules->filter != KeyFilter::AnyKey;
-}
+constexpr int kNameWidth = 34;    // average characters of the longest name that shows whole
 
 int TextWidth(const QWidget& widget, const QString& text) { return widget.fontMetrics().horizontalAdvance(text); }
 
@@ -32,9 +27,7 @@ QWidget* MakeTextBox(const Control& control, QWidget* parent) {
     return edit;
   }
   auto* const line = new QLineEdit(parent);
-  if (HoldsNumber(control) || control.design.locked) {
-    line->setFixedWidth(TextWidth(*line, QString(kNumberWidth, u'0')) + kFieldFrame);
-  }
+  line->setFixedWidth(TextWidth(*line, QString(kNumberWidth, u'0')) + kFieldFrame);
   return line;
 }
 
@@ -120,6 +113,15 @@ QWidget* Form::Row(Control& field) {
   QLabel* const unit = Words(Qt::AlignLeft);
   binder_.BindWords(*binder_.Find(field), words, unit);
   Place(words, widget, unit);
+  return widget;
+}
+
+QWidget* Form::TextRow(Control& field) {
+  QLabel* const words = Words(Qt::AlignLeft);
+  QWidget* const widget = MakeWidget(binder_, field, parent_);
+  widget->setFixedWidth(widget->fontMetrics().averageCharWidth() * kNameWidth);
+  binder_.BindWords(*binder_.Find(field), words, nullptr);
+  Row(words, widget);
   return widget;
 }
 

@@ -23,8 +23,10 @@ class Form {
   /// `column` is the first of the three grid columns that the form takes.
   Form(Binder& binder, QWidget* parent, QGridLayout* grid, int column = 0);
 
-  /// A row of a field with its own words.
+  /// A row of a number with its own words.
   QWidget* Row(Control& field);
+  /// A row of a text, as wide as a name.
+  QWidget* TextRow(Control& field);
   /// A row of a field whose words are a control of their own.
   QWidget* Row(Control& label, Control& field);
   /// A row of a field whose words, or the words behind it, are controls of their own.

@@ -14,7 +14,6 @@
 namespace zefirondo::screens {
 namespace {
 
-constexpr int kNameWidth = 32;     // characters of the longest name that shows whole
 constexpr int kCommentLines = 7;
 constexpr int kColumnGap = 28;
 
@@ -50,12 +49,10 @@ QGridLayout* MakeIdentification(Binder& binder, Sheet& sheet, QWidget* parent) {
   auto* const grid = new QGridLayout;
   Form form(binder, parent, grid);
   for (Control* const field : {&sheet.txtproduttore, &sheet.txtmarca, &sheet.txtmodello, &sheet.txtdatifor}) {
-    QWidget* const widget = form.Row(*field);
-    widget->setMinimumWidth(widget->fontMetrics().averageCharWidth() * kNameWidth);
+    form.TextRow(*field);
   }
   form.Row(sheet.txtdatacreaz);
-  QWidget* const comment = form.Row(sheet.txtcommento);
-  comment->setMinimumWidth(comment->fontMetrics().averageCharWidth() * kNameWidth);
+  QWidget* const comment = form.TextRow(sheet.txtcommento);
   comment->setFixedHeight(comment->fontMetrics().lineSpacing() * kCommentLines);
   if (QLabel* const words = binder.Find(sheet.txtcommento)->words) words->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   form.Fill();

@@ -28,8 +28,8 @@ WindowView::WindowView(Stage& stage, Window& window, BuildContent build)
   build(binder_, ground_);
   ShowData();  // before the layouts are asked for their size
   setWidget(ground_);
-  binder_.WatchGround(ground_);
-  binder_.WatchGround(this);
+  binder_.WatchGround(ground_, window_);
+  binder_.WatchGround(this, window_);
 }
 
 void WindowView::ShowData() {

@@ -14,7 +14,7 @@
 namespace zefirondo {
 namespace {
 
-constexpr double kClosedBelow = 50;   // Hz of EBP
+constexpr double kClosedBelow = 50;  // Hz of EBP
 constexpr double kVentedAbove = 90;
 
 /// What the chain hands on from one step to the next.
@@ -74,8 +74,7 @@ Chain ComputeElectrical(Program& program) {
   chain.fs = TransducerFs(s);
   chain.omega = chain.fs * kTwoPi;
   const double zmax = s.Fs != 0.0 ? s.Zmax : ReadNumber(s.txtzmax);
-  const double measured =
-      s.Fs != 0.0 ? QmsFromBandwidth(s.Fs, zmax, chain.re, s.Bw) : ReadNumber(s.txtqmesin);
+  const double measured = s.Fs != 0.0 ? QmsFromBandwidth(s.Fs, zmax, chain.re, s.Bw) : ReadNumber(s.txtqmesin);
   const ImpedanceQ q = QFromImpedance(zmax, chain.re, measured);
   s.Rzero = q.rzero;
   chain.qes = q.qes;

@@ -13,8 +13,8 @@ struct ImpedanceQ {
   double rzero = 0.0;  // Zmax / Re
   double qms = 0.0;
   double qes = 0.0;
-  double qts = 0.0;    // without the amplifier
-  double res = 0.0;    // ohm
+  double qts = 0.0;  // without the amplifier
+  double res = 0.0;  // ohm
 };
 
 /// Frequencies in Hz, impedances in ohm. The second form measures Qms by the bandwidth Fh − Fl.

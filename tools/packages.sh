@@ -1,0 +1,28 @@
+# Installs the Debian packages that are named and missing. Sourced by ./run, ./test and .ci/run.
+
+install_missing() {
+  local missing=()
+  local package
+  for package in "$@"; do
+    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+  done
+  [ ${#missing[@]} -eq 0 ] && return 0
+  local root=()
+  if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || {
+      echo "These packages are missing, and there is no sudo to install them: ${missing[*]}" >&2
+      return 1
+    }
+    root=(sudo)
+  fi
+  echo "Installing: ${missing[*]}"
+  "${root[@]}" apt-get update -qq
+  DEBIAN_FRONTEND=noninteractive "${root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# What the program needs to be built, and to start on a desktop.
+BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev)
+# What the tests and benchmarks need besides.
+TEST_PACKAGES=(ccache libgtest-dev libbenchmark-dev)
+# What the format and lint checks need besides.
+LINT_PACKAGES=(clang-format-14 clang-tidy-14)
