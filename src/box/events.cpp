@@ -1,11 +1,14 @@
 #include "box/events.h"
 
+#include "box/alignment_chart.h"
 #include "box/box_page.h"
+#include "box/box_type.h"
 #include "box/closed_box.h"
 #include "box/dimension_entry.h"
 #include "box/geometry.h"
 #include "box/ports.h"
 #include "box/vented_box.h"
+#include "box/wiring.h"
 
 namespace zefirondo {
 
@@ -16,6 +19,9 @@ void ConnectBox(Program& program) {
   ConnectPorts(program);
   ConnectGeometry(program);
   ConnectDimensionEntry(program);
+  ConnectBoxType(program);
+  ConnectAlignmentChart(program);
+  ConnectWiring(program);
 }
 
 }  // namespace zefirondo

@@ -298,7 +298,9 @@ Outcome ReleaseMouse(Program& program, Control& plot) {
 Outcome CloseBox(Program& program, Window& window) {
   if (!window.open) return {Refusal::NotOpen, nullptr};
   if (window.hidden) return {Refusal::Hidden, nullptr};
-  RunEvent(program, [&] { CloseWindow(program, window); });
+  RunEvent(program, [&] {
+    if (window.on.close_box == nullptr || window.on.close_box(program)) CloseWindow(program, window);
+  });
   return {};
 }
 

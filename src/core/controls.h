@@ -146,7 +146,8 @@ struct Control {
 struct WindowEvents {
   void (*load)(Program&) = nullptr;
   void (*activate)(Program&) = nullptr;
-  bool (*query_unload)(Program&) = nullptr;  // false refuses the close
+  bool (*close_box)(Program&) = nullptr;     // false refuses the close box, and it alone
+  bool (*query_unload)(Program&) = nullptr;  // false refuses the close, by whatever road
   void (*unload)(Program&) = nullptr;
 };
 

@@ -77,6 +77,12 @@ constexpr auto kFieldRules = std::to_array<FieldRules>({
     {kSheet, "txtpressione", Number, SelectAll, LeavingTest::NoTest, GiveBack},
 
     {"frmgrafcassa", "txtdbcal", SignedNumber, SelectAll},
+    {"frmopzioni", "txtrs", Number, SelectAll, NonZero},
+    {"frmopzioni", "txtspessore", Integer, SelectAll, NonZero},
+    {"frmvalc", "txtf1", Number, SelectAll, NonZeroIfFilled},
+    {"frmvalc", "txtf2", Number, SelectAll, NonZeroIfFilled},
+    {"frmvalf", "txtf1", Number, SelectAll, NonZeroIfFilled},
+    {"frmvalf", "txtf2", Number, SelectAll, NonZeroIfFilled},
     {"frmdimensioni", "txtLmanual", Number, SelectAll, NonZero},
     {"frmdimensioni", "txtHmanual", Number, SelectAll, NonZero},
     {"frmdimensioni", "txtPmanual", Number, SelectAll, NonZero},
@@ -170,6 +176,7 @@ bool RunLeavingTest(Program& program, Control& field) {
   switch (field.rules->test) {
     case LeavingTest::NoTest: break;
     case NonZero: holds = holds || ReadNumber(*field.text) == 0.0; break;
+    case NonZeroIfFilled: holds = holds || (!field.text->empty() && ReadNumber(*field.text) == 0.0); break;
     case NonZeroUnlessReadOnly: holds = holds || (!field.locked && ReadNumber(*field.text) == 0.0); break;
     case NonZeroSdOrD: holds = holds || (ReadNumber(state.txtsd) == 0.0 && ReadNumber(state.txtd) == 0.0); break;
   }

@@ -35,6 +35,7 @@ enum class LeavingTest {
   NoTest,
   NonZero,  // the reading must not be 0; an empty field counts as 0
   NonZeroUnlessReadOnly,
+  NonZeroIfFilled,    // an empty field may be left
   NonZeroSdOrD,  // one of `txtsd` and `txtd` must read as non-zero
 };
 

@@ -16,7 +16,7 @@ constexpr double kDecimalLimit = 7.9228162514264338e28;  // the largest 96-bit i
 constexpr int kDecimalScale = 28;                        // its most decimals
 constexpr int kSignificantDigits = 15;
 constexpr std::size_t kShownCharacters = 7;
-constexpr double kSmallestPlain = 0.001;  // below it a positive number is shown in millionths
+constexpr int kSmallestPlainPoint = -2;  // of 0.001: below it a positive number is shown in millionths
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
@@ -157,7 +157,7 @@ std::string FormatNumber(double value) {
   Decimal decimal = ToDecimal(value);
   if (decimal.digits.empty()) return "0";
   // The exponent form serves positive values only, which is wanted.
-  if (!decimal.negative && value < kSmallestPlain) {
+  if (!decimal.negative && decimal.point < kSmallestPlainPoint) {
     decimal.point += 6;
     return CutForScreen(TextForm(decimal)) + "E-06";
   }

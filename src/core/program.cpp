@@ -8,11 +8,27 @@
 
 namespace zefirondo {
 
-Windows::Windows(ProjectState& state) : mdithsm(state), frmthsm(state), frmgrafcassa(state), frmdimensioni(state) {}
+Windows::Windows(ProjectState& state)
+    : mdithsm(state),
+      frmthsm(state),
+      frmgrafcassa(state),
+      frmdimensioni(state),
+      frmopzioni(state),
+      frmwooferconn(state),
+      frmbox(state),
+      frmalfa(state),
+      frmgrafico(state),
+      frmvalc(state),
+      frmvalf(state) {}
+
+std::vector<Window*> Windows::All() {
+  return {&mdithsm.window, &frmthsm.window, &frmgrafcassa.window, &frmdimensioni.window, &frmopzioni.window,
+          &frmwooferconn.window, &frmbox.window, &frmalfa.window, &frmgrafico.window, &frmvalc.window, &frmvalf.window};
+}
 
 Program::Program(Platform& the_platform, Language the_language, std::filesystem::path the_folder)
     : windows(state), platform(the_platform), language(the_language), folder(std::move(the_folder)) {
-  all = {&windows.mdithsm.window, &windows.frmthsm.window, &windows.frmgrafcassa.window, &windows.frmdimensioni.window};
+  all = windows.All();
   for (Window* const window : all) ApplyDesign(*window, language);
 }
 

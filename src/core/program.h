@@ -11,9 +11,16 @@
 #include "core/messages.h"
 #include "core/platform.h"
 #include "core/project_state.h"
+#include "core/windows/frmalfa.h"
+#include "core/windows/frmbox.h"
 #include "core/windows/frmdimensioni.h"
 #include "core/windows/frmgrafcassa.h"
+#include "core/windows/frmgrafico.h"
+#include "core/windows/frmopzioni.h"
 #include "core/windows/frmthsm.h"
+#include "core/windows/frmvalc.h"
+#include "core/windows/frmvalf.h"
+#include "core/windows/frmwooferconn.h"
 #include "core/windows/mdithsm.h"
 
 namespace zefirondo {
@@ -24,8 +31,17 @@ struct Windows {
   Sheet frmthsm;
   BoxResponse frmgrafcassa;
   DimensionEntry frmdimensioni;
+  ProjectOptions frmopzioni;
+  WooferWiringChoice frmwooferconn;
+  BoxTypeChoice frmbox;
+  AlignmentChart frmalfa;
+  ImpedanceGraph frmgrafico;
+  CapacitorTool frmvalc;
+  InductorTool frmvalf;
 
   explicit Windows(ProjectState& state);
+
+  [[nodiscard]] std::vector<Window*> All();
 };
 
 enum class RunState { NotStarted, Running, Ended, EndedByFailure };

@@ -94,6 +94,8 @@ bool AskOnLeaving(Program& program) {
 bool frmthsm_QueryUnload(Program& program) { return !program.state.ProjectModified || AskOnLeaving(program); }
 
 void frmthsm_Unload(Program& program) {
+  // A field that goes with its window is not left: its leaving would mark a project that is gone.
+  if (program.focus != nullptr && program.focus->window == &program.windows.frmthsm.window) program.focus = nullptr;
   ResetSheet(program);
   UndoDataImport(program);
   program.state.ProjectLoaded = program.state.AirChanged = false;

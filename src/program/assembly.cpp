@@ -3,6 +3,7 @@
 #include "box/events.h"
 #include "core/air.h"
 #include "core/fields.h"
+#include "core/options.h"
 #include "core/sheet.h"
 #include "core/shell.h"
 #include "files/events.h"
@@ -16,6 +17,7 @@ void ConnectProgram(Program& program) {
   ConnectShell(program);
   ConnectSheet(program);
   ConnectAir(program);
+  ConnectOptions(program);
   ConnectFiles(program);
   ConnectResponse(program);
   ConnectBox(program);

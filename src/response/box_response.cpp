@@ -6,6 +6,7 @@
 #include "core/events.h"
 #include "core/numbers.h"
 #include "core/window_life.h"
+#include "files/trace_file.h"
 #include "response/graph_surface.h"
 
 namespace zefirondo {
@@ -164,6 +165,19 @@ void cmdcancella_Click(Program& program) {
   CloseWindow(program, "frmFase");
 }
 
+void mnuimportatracciato_Click(Program& program) {
+  Trace trace;
+  if (!ImportTrace(program, program.Text(468), trace)) return;
+  DisegnaCurva(trace.x, trace.y, program.state.BoxScaleTop, program.windows.frmgrafcassa.surface, trace.colour);
+}
+
+void SaveSlot(Program& program, const Slot& slot) {
+  SaveTrace(program, slot.colour, program.state.*slot.freq, program.state.*slot.db);
+}
+
+void mnusalvatracciatorosso_Click(Program& program) { SaveSlot(program, kSlot1); }
+void mnusalvatracciatoblu_Click(Program& program) { SaveSlot(program, kSlot2); }
+
 void mnuchiudigraf_Click(Program& program) { CloseWindow(program, program.windows.frmgrafcassa.window); }
 
 void mnufiltri_Click(Program& program) { OpenWindow(program, "frmfiltri"); }
@@ -206,6 +220,9 @@ void ConnectBoxResponse(Program& program) {
   form.chkonoff1.on.click = chkonoff1_Click;
   form.chkonoff2.on.click = chkonoff2_Click;
   form.cmdcancella.on.click = cmdcancella_Click;
+  form.mnuimportatracciato.on.click = mnuimportatracciato_Click;
+  form.mnusalvatracciatorosso.on.click = mnusalvatracciatorosso_Click;
+  form.mnusalvatracciatoblu.on.click = mnusalvatracciatoblu_Click;
   form.mnuchiudigraf.on.click = mnuchiudigraf_Click;
   form.mnufiltri.on.click = mnufiltri_Click;
   form.pctgraf.on.mouse_down = pctgraf_MouseDown;

@@ -11,6 +11,8 @@ namespace {
 
 constexpr int kZeroDecibel = 40;     // a box level of 0 dB is stored as 40
 constexpr double kBoxGridLeft = 20;  // the x at the left edge of the box plot
+constexpr double kImpedanceGridLeft = 10;
+constexpr int kImpedanceGridLimit = 10000;  // Hz
 constexpr int kBoxGridLimit = 5000;  // Hz
 
 /// How many points of a curve with this many slots are drawn.
@@ -69,6 +71,11 @@ int GridStep(int top) {
 void GrigliaCassa(int top, Surface& surface) {
   DrawLevels(surface, top, GridStep(top), kZeroDecibel, kBoxGridLeft);
   DrawFrequencies(surface, kBoxGridLimit);
+}
+
+void GrigliaImpedenza(int top, Surface& surface) {
+  DrawLevels(surface, top, GridStep(top), 0, kImpedanceGridLeft);
+  DrawFrequencies(surface, kImpedanceGridLimit);
 }
 
 void ShowReadout(const Surface& surface, Control& readout, double x, double y, double value,

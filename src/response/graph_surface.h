@@ -23,6 +23,9 @@ void DisegnaImpedenza(const Curve& hertz, const Curve& ohm, double top, Surface&
 /// The grid and the value labels of the box response. Clears the labels, not the surface.
 void GrigliaCassa(int top, Surface& surface);
 
+/// The grid and the value labels of a measured impedance.
+void GrigliaImpedenza(int top, Surface& surface);
+
 /// The units of a read-out, and where it stands under the mouse.
 struct ReadoutStyle {
   const char* unit;

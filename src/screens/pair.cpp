@@ -165,11 +165,15 @@ void ShowLooks(Pair& pair) {
   ShowColours(*pair.widget, pair.back, pair.fore);
 }
 
+/// A field is called by the words beside it, be they its own or those of a label.
 void ShowSpokenName(Pair& pair) {
-  const std::string& name = pair.control->label;
-  if (!pair.control->IsField() || name.empty() || pair.spoken == name) return;
+  const Control& control = *pair.control;
+  const auto* const label = qobject_cast<const QLabel*>(pair.widget);
+  const std::string& name = control.IsField() ? control.label : *control.text;
+  QWidget* const named = label == nullptr ? pair.widget : label->buddy();
+  if ((!control.IsField() && label == nullptr) || named == nullptr || name.empty() || pair.spoken == name) return;
   pair.spoken = name;
-  pair.widget->setAccessibleName(Spoken(name));
+  named->setAccessibleName(Spoken(name));
 }
 
 }  // namespace

@@ -2,9 +2,7 @@
 
 #include <cmath>
 
-#include "box/box_page.h"
-#include "box/closed_box.h"
-#include "box/vented_box.h"
+#include "box/box_type.h"
 #include "core/events.h"
 #include "core/fields.h"
 #include "core/numbers.h"
@@ -151,11 +149,6 @@ void ComputeParametersProject(Program& program) {
   ShowAcoustic(program, acoustic);
   ShowEfficiency(program, fs, qes);
   s.EBP = Divide(fs, qes);
-}
-
-void DesignBox(Program& program, bool vented) {
-  vented ? CalcolaReflex(program) : CalcolaChiusa(program);
-  InsertBoxPage(program, vented ? "ref" : "chi");
 }
 
 void ProposeBox(Program& program) {

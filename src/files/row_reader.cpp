@@ -1,0 +1,115 @@
+#include "files/row_reader.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <system_error>
+
+#include "core/numbers.h"
+#include "core/run_time_error.h"
+#include "files/text_file.h"
+
+namespace zefirondo {
+namespace {
+
+constexpr std::size_t kBufferSize = 1U << 16U;
+constexpr std::size_t kLongestField = 1U << 12U;  // characters looked at; no number needs more
+constexpr std::size_t kAhead = 64;                // a usual field and its separator fit into so much
+
+bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+bool IsLineEnd(char c) { return c == '\r' || c == '\n'; }
+bool EndsField(char c) { return c == ',' || IsBlank(c) || IsLineEnd(c); }
+
+double FileLength(std::FILE* file) {
+  if (std::fseek(file, 0, SEEK_END) != 0) return 0.0;
+  const long length = std::ftell(file);
+  std::rewind(file);
+  return static_cast<double>(length);
+}
+
+}  // namespace
+
+RowReader::RowReader(const std::filesystem::path& path) : file_(OpenRegularFile(path)), buffer_(kBufferSize) {
+  std::setvbuf(file_.get(), nullptr, _IONBF, 0);  // the buffer here is the only one
+  length_ = FileLength(file_.get());
+}
+
+/// Moves what is left to the front of the buffer and reads on behind it. False when nothing came.
+bool RowReader::Refill() {
+  if (exhausted_) return false;
+  std::copy(buffer_.begin() + static_cast<std::ptrdiff_t>(at_), buffer_.begin() + static_cast<std::ptrdiff_t>(size_),
+            buffer_.begin());
+  size_ -= at_;
+  at_ = 0;
+  const std::size_t wanted = buffer_.size() - size_;
+  const std::size_t got = std::fread(buffer_.data() + size_, 1, wanted, file_.get());
+  if (got < wanted && std::ferror(file_.get()) != 0) throw RunTimeError(ErrorNumber::DeviceError);
+  exhausted_ = got < wanted;
+  size_ += got;
+  return got > 0;
+}
+
+bool RowReader::AtEnd() { return at_ == size_ && !Refill(); }
+
+std::string RowReader::ReadLine() {
+  if (AtEnd()) throw RunTimeError(ErrorNumber::EndOfFile);
+  std::string line;
+  while (!AtEnd()) {
+    const char c = buffer_[at_++];
+    if (IsLineEnd(c)) {
+      if (c == '\r' && !AtEnd() && Peek() == '\n') ++at_;
+      break;
+    }
+    if (line.size() < kLongestField) line += c;
+  }
+  return line;
+}
+
+void RowReader::SkipBlanks() {
+  while (!AtEnd() && IsBlank(Peek())) ++at_;
+}
+
+/// Goes past what ended a field.
+void RowReader::SkipSeparator() {
+  SkipBlanks();
+  if (AtEnd() || !EndsField(Peek())) return;
+  const char c = buffer_[at_++];
+  if (c == '\r' && !AtEnd() && Peek() == '\n') ++at_;
+}
+
+/// A field of any length and any characters.
+double RowReader::ReadUnusualField() {
+  std::string field;
+  while (!AtEnd() && !EndsField(Peek())) {
+    if (field.size() < kLongestField) field += Peek();
+    ++at_;
+  }
+  return ReadNumber(field);
+}
+
+double RowReader::ReadNumberField() {
+  SkipBlanks();
+  if (AtEnd()) throw RunTimeError(ErrorNumber::EndOfFile);
+  if (size_ - at_ < kAhead) Refill();
+  double value = 0.0;
+  const char* const begin = buffer_.data() + at_;
+  const char* const end = buffer_.data() + size_;
+  const auto [stop, error] = std::from_chars(begin, end, value);
+  const bool usual = error == std::errc() && stop != end && EndsField(*stop) && std::isfinite(value);
+  if (usual) {
+    at_ += static_cast<std::size_t>(stop - begin);
+  } else {
+    value = ReadUnusualField();
+  }
+  SkipSeparator();
+  return value;
+}
+
+Row RowReader::ReadRow() {
+  Row row;
+  row.first = ReadNumberField();
+  row.second = ReadNumberField();
+  return row;
+}
+
+}  // namespace zefirondo

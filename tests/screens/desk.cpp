@@ -1,0 +1,190 @@
+#include "desk.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <algorithm>
+
+#include "core/acts.h"
+#include "program/assembly.h"
+#include "screens/qt_text.h"
+
+namespace zefirondo::screens {
+namespace {
+
+constexpr QSize kFrameSize(1280, 860);
+constexpr int kLookForBoxes = 5;  // ms
+
+}  // namespace
+
+std::optional<std::filesystem::path> DeskPlatform::ChooseFile(const FileDialog& /*dialog*/) {
+  if (files.empty()) return std::nullopt;
+  const std::filesystem::path file = files.front();
+  files.pop_front();
+  return file;
+}
+
+Desk::Desk(Language language)
+    : platform(language), program(platform, language, folder.path().toStdString()) {
+  ConnectProgram(program);
+  frame = std::make_unique<MainFrameView>(program);
+  platform.Attach(frame.get(), [this] { frame->stage().Refresh(); });
+  frame->resize(kFrameSize);
+  frame->show();
+  QApplication::setActiveWindow(frame.get());
+  static_cast<void>(QTest::qWaitForWindowActive(frame.get()));
+  QObject::connect(&answering_, &QTimer::timeout, frame.get(), [this] { AnswerBox(); });
+  answering_.start(kLookForBoxes);
+  frame->stage().Act([this] { Start(program, ""); });
+}
+
+Desk::~Desk() { answering_.stop(); }
+
+void Desk::AnswerBox() {
+  auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  if (box == nullptr || !box->isVisible()) return;
+  ShownBox shown{box->windowTitle(), box->text(), box->icon(), {}, {}};
+  QList<QAbstractButton*> buttons = box->buttons();
+  std::sort(buttons.begin(), buttons.end(), [](const auto* a, const auto* b) { return a->x() < b->x(); });
+  for (const QAbstractButton* const button : buttons) shown.buttons.append(Spoken(FromQt(button->text())));
+  if (box->defaultButton() != nullptr) shown.default_button = Spoken(FromQt(box->defaultButton()->text()));
+  boxes.push_back(shown);
+  Planned answer{QMessageBox::Ok, std::nullopt};
+  if (box->buttons().size() > 1) {
+    if (answers_.empty()) {
+      QTest::qFail("a question that nobody planned to answer", __FILE__, __LINE__);
+      box->reject();
+      return;
+    }
+    answer = answers_.front();
+    answers_.pop_front();
+  }
+  if (answer.key) {
+    QTest::keyClick(box, *answer.key);
+  } else {
+    QTest::mouseClick(box->button(*answer.button), Qt::LeftButton);
+  }
+}
+
+void Desk::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) const {
+  QTest::keyClick(frame->windowHandle(), key, modifiers);
+  QCoreApplication::processEvents();
+}
+
+void Desk::Type(const QString& text) const {
+  for (const QChar c : text) QTest::keyClick(frame->windowHandle(), c.toLatin1());
+  QCoreApplication::processEvents();
+}
+
+QPoint Desk::InWindow(const QWidget& widget, std::optional<QPoint> at) const {
+  return widget.mapTo(frame.get(), at.value_or(widget.rect().center()));
+}
+
+void Desk::Press(const QString& name, Qt::MouseButton button, std::optional<QPoint> at) {
+  QTest::mousePress(frame->windowHandle(), button, {}, InWindow(*Find(name), at));
+}
+
+void Desk::Release(const QString& name, Qt::MouseButton button) {
+  QTest::mouseRelease(frame->windowHandle(), button, {}, InWindow(*Find(name), {}));
+}
+
+void Desk::Click(const QString& name, Qt::MouseButton button, std::optional<QPoint> at) {
+  QTest::mouseClick(frame->windowHandle(), button, {}, InWindow(*Find(name), at));
+  QCoreApplication::processEvents();
+}
+
+void Desk::DoubleClick(const QString& name) {
+  QTest::mouseDClick(frame->windowHandle(), Qt::LeftButton, {}, InWindow(*Find(name), {}));
+  QCoreApplication::processEvents();
+}
+
+void Desk::ClickTab(const QString& caption) {
+  auto* const tabs = Find<QTabBar>(QStringLiteral("TabStrip1"));
+  for (int i = 0; i < tabs->count(); ++i) {
+    if (tabs->tabText(i) == caption) Click(QStringLiteral("TabStrip1"), Qt::LeftButton, tabs->tabRect(i).center());
+  }
+}
+
+void Desk::Fill(const QString& name, const QString& text) {
+  Click(name);
+  Key(Qt::Key_A, Qt::ControlModifier);
+  Type(text);
+}
+
+void Desk::NewProject() {
+  Key(Qt::Key_P, Qt::AltModifier);
+  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_P);
+  QCoreApplication::processEvents();
+}
+
+void Desk::FillWoofer() {
+  using Row = std::pair<const char*, const char*>;
+  for (const auto& [name, text] : {Row{"txtmodello", "W210"}, Row{"txtpotenza", "100"}, Row{"txtimpedenza", "8"},
+                                   Row{"txtsensibilita", "90"}, Row{"txtxmax", "5"}}) {
+    Fill(QLatin1String(name), QLatin1String(text));
+  }
+  ClickTab(QStringLiteral("Dimensions"));
+  for (const auto& [name, text] : {Row{"txtforo", "230"}, Row{"txtprof", "110"}, Row{"txtlagmagne", "140"},
+                                   Row{"txtprofmag", "50"}, Row{"txtesterno", "260"}, Row{"txtspesbordo", "8"},
+                                   Row{"txtdiambob", "38"}}) {
+    Fill(QLatin1String(name), QLatin1String(text));
+  }
+  Click(QStringLiteral("txtvolume"));
+  ClickTab(QStringLiteral("Parameters"));
+  for (const auto& [name, text] : {Row{"txtfs", "35"}, Row{"txtrvc", "5.6"}, Row{"txtqmesin", "4.2"}, Row{"txtbl", "9.5"},
+                                   Row{"txtd", "210"}, Row{"txtqes", "0.45"}, Row{"txtqts", "0.41"},
+                                   Row{"txtmms", "0.038"}}) {
+    Fill(QLatin1String(name), QLatin1String(text));
+  }
+}
+
+void Desk::DesignVentedBox() {
+  AnswerByClick(QMessageBox::Yes);
+  Click(QStringLiteral("cmdcalcola"));
+}
+
+QWidget* Desk::Find(const QString& name) const {
+  QWidget* const found = frame->findChild<QWidget*>(name);
+  if (found == nullptr) QTest::qFail(qPrintable(QStringLiteral("no widget ") + name), __FILE__, __LINE__);
+  return found;
+}
+
+QString Desk::Text(const QString& name) const {
+  QWidget* const widget = Find(name);
+  if (const auto* const line = qobject_cast<QLineEdit*>(widget)) return line->text();
+  if (const auto* const combo = qobject_cast<QComboBox*>(widget)) return combo->currentText();
+  if (const auto* const edit = qobject_cast<QPlainTextEdit*>(widget)) return edit->toPlainText();
+  return widget->property("text").toString();
+}
+
+QString Desk::FocusName() const {
+  const QWidget* const focus = frame->focusWidget();
+  return focus == nullptr ? QString() : focus->objectName();
+}
+
+QStringList Desk::MenuTitles() const {
+  QStringList titles;
+  for (const QAction* const action : frame->menuBar()->actions()) titles.append(action->text());
+  return titles;
+}
+
+WindowView* Desk::View(std::string_view window) const { return frame->ViewOf(*program.FindWindow(window)); }
+
+QStringList Desk::FieldsThatDiffer() const {
+  QStringList names;
+  for (const Window* const window : program.all) {
+    WindowView* const view = frame->ViewOf(*window);
+    if (view == nullptr || !window->open) continue;
+    for (const Control* const control : window->controls) {
+      const QString name = QString::fromStdString(control->FullName());
+      if (control->IsField() && Text(name) != ToField(*control->text)) names.append(name);
+    }
+  }
+  return names;
+}
+
+}  // namespace zefirondo::screens

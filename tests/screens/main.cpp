@@ -1,0 +1,28 @@
+// Runs the tests of the screens one after the other.
+
+#include <QApplication>
+#include <QTest>
+
+#include "fields_test.h"
+#include "platform_test.h"
+#include "road_test.h"
+#include "windows_test.h"
+
+namespace {
+
+template <class Test>
+int Run(int argc, char** argv) {
+  Test test;
+  return QTest::qExec(&test, argc, argv);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const QApplication application(argc, argv);
+  int failures = Run<RoadTest>(argc, argv);
+  failures += Run<FieldsTest>(argc, argv);
+  failures += Run<WindowsTest>(argc, argv);
+  failures += Run<PlatformTest>(argc, argv);
+  return failures == 0 ? 0 : 1;
+}
