@@ -33,6 +33,8 @@ void CloseChoice(Program& program) { CloseWindow(program, program.windows.frmbox
 }  // namespace
 
 void DesignBox(Program& program, bool vented) {
+  ChiudiGrafici(program);
+  CloseWindow(program, "frmairspeed");  // it is for the box type that was
   vented ? CalcolaReflex(program) : CalcolaChiusa(program);
   InsertBoxPage(program, vented ? "ref" : "chi");
 }

@@ -83,6 +83,13 @@ constexpr auto kFieldRules = std::to_array<FieldRules>({
     {"frmvalc", "txtf2", Number, SelectAll, NonZeroIfFilled},
     {"frmvalf", "txtf1", Number, SelectAll, NonZeroIfFilled},
     {"frmvalf", "txtf2", Number, SelectAll, NonZeroIfFilled},
+    {"frmsplMax", "txtpot", AppliedPower, SelectAll, NonZero, Allowed, "cmdcalc"},
+    {"frmescursione", "txtpot", AppliedPower, SelectAll, NonZero, Allowed, "cmdcalc"},
+    {"frmairspeed", "txtpot", AppliedPower, SelectAll, NonZero, Allowed, "cmdcalc"},
+    {"frmfiltri", "cmbgain", SignedNumber},
+    {"frmfiltri", "cmbQ", Number},
+    {"frmfiltri", "txtft", Number, SelectAll, NoTest, GiveBack},
+    {"frmfiltri", "txtFinf", Number, SelectAll, NoTest, GiveBack},
     {"frmdimensioni", "txtLmanual", Number, SelectAll, NonZero},
     {"frmdimensioni", "txtHmanual", Number, SelectAll, NonZero},
     {"frmdimensioni", "txtPmanual", Number, SelectAll, NonZero},
@@ -138,7 +145,13 @@ bool FilterKey(Program& program, Control& field, int k) {
   const FieldRules& rules = *field.rules;
   const bool strict = rules.filter == Number || rules.filter == Integer;
   Control& zero = rules.leading_zero_of.empty() ? field : *field.window->Find(rules.leading_zero_of);
-  if (strict && *zero.text == "0" && k != '.' && k != key::kBackspace) return Reject(program, zero, 114);
+  const bool after_leading_zero = *zero.text == "0" && k != '.' && k != key::kBackspace;
+  if (strict && after_leading_zero) return Reject(program, zero, 114);
+  if (rules.filter == AppliedPower && after_leading_zero) {  // it warns, and lets the key through, as wanted
+    program.ErrorMessage(program.Text(114));
+    field.selection_start = field.selection_length = 0;
+    return true;
+  }
   if (IsDigitKey(k) || k == key::kBackspace) return true;
   if (k == '-' && rules.filter == SignedNumber) return true;
   if (k == key::kEnter) {
@@ -152,6 +165,7 @@ bool FilterKey(Program& program, Control& field, int k) {
     return true;
   }
   if (k == '.' && !HasPoint(*field.text)) return true;
+  if (rules.filter == AppliedPower) field.selection_start = 0;
   return Reject(program, field, warning);
 }
 

@@ -19,11 +19,18 @@ Windows::Windows(ProjectState& state)
       frmalfa(state),
       frmgrafico(state),
       frmvalc(state),
-      frmvalf(state) {}
+      frmvalf(state),
+      frmspl(state),
+      frmsplMax(state),
+      frmescursione(state),
+      frmairspeed(state),
+      frmFase(state),
+      frmfiltri(state) {}
 
 std::vector<Window*> Windows::All() {
   return {&mdithsm.window, &frmthsm.window, &frmgrafcassa.window, &frmdimensioni.window, &frmopzioni.window,
-          &frmwooferconn.window, &frmbox.window, &frmalfa.window, &frmgrafico.window, &frmvalc.window, &frmvalf.window};
+          &frmwooferconn.window, &frmbox.window, &frmalfa.window, &frmgrafico.window, &frmvalc.window, &frmvalf.window,
+          &frmspl.window, &frmsplMax.window, &frmescursione.window, &frmairspeed.window, &frmFase.window, &frmfiltri.window};
 }
 
 Program::Program(Platform& the_platform, Language the_language, std::filesystem::path the_folder)

@@ -11,12 +11,18 @@
 #include "core/messages.h"
 #include "core/platform.h"
 #include "core/project_state.h"
+#include "core/windows/frmFase.h"
+#include "core/windows/frmairspeed.h"
 #include "core/windows/frmalfa.h"
 #include "core/windows/frmbox.h"
 #include "core/windows/frmdimensioni.h"
+#include "core/windows/frmescursione.h"
+#include "core/windows/frmfiltri.h"
 #include "core/windows/frmgrafcassa.h"
 #include "core/windows/frmgrafico.h"
 #include "core/windows/frmopzioni.h"
+#include "core/windows/frmspl.h"
+#include "core/windows/frmsplMax.h"
 #include "core/windows/frmthsm.h"
 #include "core/windows/frmvalc.h"
 #include "core/windows/frmvalf.h"
@@ -38,6 +44,12 @@ struct Windows {
   ImpedanceGraph frmgrafico;
   CapacitorTool frmvalc;
   InductorTool frmvalf;
+  SplGraph frmspl;
+  SplMaxGraph frmsplMax;
+  ExcursionGraph frmescursione;
+  AirSpeedGraph frmairspeed;
+  PhaseGraph frmFase;
+  FilterDesigner frmfiltri;
 
   explicit Windows(ProjectState& state);
 

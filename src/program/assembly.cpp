@@ -7,6 +7,7 @@
 #include "core/sheet.h"
 #include "core/shell.h"
 #include "files/events.h"
+#include "filters/events.h"
 #include "response/events.h"
 #include "transducer/events.h"
 
@@ -22,6 +23,7 @@ void ConnectProgram(Program& program) {
   ConnectResponse(program);
   ConnectBox(program);
   ConnectTransducer(program);
+  ConnectFilters(program);
 }
 
 }  // namespace zefirondo

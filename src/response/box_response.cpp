@@ -1,13 +1,11 @@
 #include "response/box_response.h"
 
-#include <initializer_list>
 #include <string>
 
-#include "core/events.h"
 #include "core/numbers.h"
 #include "core/window_life.h"
-#include "files/trace_file.h"
 #include "response/graph_surface.h"
+#include "response/stored_traces.h"
 
 namespace zefirondo {
 namespace {
@@ -16,94 +14,31 @@ constexpr double kLeft = 20;      // 10 Hz
 constexpr double kWidth = 53.96;  // to 4984 Hz
 constexpr double kZeroDecibel = 40;
 
-/// One of the two stored traces of the box graph.
-struct Slot {
-  Curve ProjectState::*freq;
-  Curve ProjectState::*db;
-  bool ProjectState::*stored;
-  bool ProjectState::*shown;
-  Control BoxResponse::*tick;
-  Control BoxResponse::*save_entry;
-  int colour;
-};
-
-constexpr Slot kSlot1{&ProjectState::Set1BoxFreq,
-                      &ProjectState::Set1BoxDb,
-                      &ProjectState::Set1BoxStored,
-                      &ProjectState::Set1BoxShown,
-                      &BoxResponse::chkonoff1,
-                      &BoxResponse::mnusalvatracciatorosso,
-                      colour::kRed};
-constexpr Slot kSlot2{&ProjectState::Set2BoxFreq,
-                      &ProjectState::Set2BoxDb,
-                      &ProjectState::Set2BoxStored,
-                      &ProjectState::Set2BoxShown,
-                      &BoxResponse::chkonoff2,
-                      &BoxResponse::mnusalvatracciatoblu,
-                      colour::kBlue};
-
-void DrawSlot(Program& program, const Slot& slot) {
-  ProjectState& s = program.state;
-  DisegnaCurva(s.*slot.freq, s.*slot.db, s.BoxScaleTop, program.windows.frmgrafcassa.surface, slot.colour);
+/// A slot that is stored anew while it is shown drops a sum that was made before.
+void RestoreBox(Program& program) {
+  DropBoxSum(program);
+  RidisegnaCassa(program);
 }
 
-/// Clears the plot, and draws the grid and the computed curve.
-void DrawPlain(Program& program) {
-  const ProjectState& s = program.state;
-  Surface& surface = program.windows.frmgrafcassa.surface;
-  surface.Clear();
-  GrigliaCassa(s.BoxScaleTop, surface);
-  DisegnaCurva(s.BoxFreq, s.BoxDb, s.BoxScaleTop, surface, colour::kBlack);
-}
-
-void StoreSlot(Program& program, const Slot& slot) {
+TraceGraph BoxTraces(Program& program) {
   ProjectState& s = program.state;
   BoxResponse& form = program.windows.frmgrafcassa;
-  s.*slot.freq = s.BoxFreq;
-  s.*slot.db = s.BoxDb;
-  if (s.*slot.shown) {
-    DropBoxSum(program);
-    RidisegnaCassa(program);
-    return;
-  }
-  s.*slot.stored = s.*slot.shown = true;
-  (form.*slot.tick).visible = true;
-  SetChecked(program, form.*slot.tick, true);
+  return {{TraceSlot{&s.Set1BoxFreq, &s.Set1BoxDb, &s.Set1BoxStored, &s.Set1BoxShown, &form.chkonoff1,
+                     &form.mnusalvatracciatorosso, colour::kRed},
+           TraceSlot{&s.Set2BoxFreq, &s.Set2BoxDb, &s.Set2BoxStored, &s.Set2BoxShown, &form.chkonoff2,
+                     &form.mnusalvatracciatoblu, colour::kBlue}},
+          &s.BoxFreq,
+          &s.BoxDb,
+          static_cast<double>(s.BoxScaleTop),
+          &form.surface,
+          DrawPlainBox,
+          RestoreBox};
 }
 
-void ToggleSlot(Program& program, const Slot& slot, const Slot& other) {
-  ProjectState& s = program.state;
-  BoxResponse& form = program.windows.frmgrafcassa;
-  if (!(s.*slot.stored)) return;
-  const bool ticked = (form.*slot.tick).checked;
-  s.*slot.shown = ticked;
-  (form.*slot.save_entry).enabled = ticked;
-  if (ticked) {
-    DrawSlot(program, slot);
-    return;
-  }
-  DrawPlain(program);
-  if (s.*other.shown) DrawSlot(program, other);
-}
-
-void cmdset1_Click(Program& program) { StoreSlot(program, kSlot1); }
-void cmdset2_Click(Program& program) { StoreSlot(program, kSlot2); }
-void chkonoff1_Click(Program& program) { ToggleSlot(program, kSlot1, kSlot2); }
-void chkonoff2_Click(Program& program) { ToggleSlot(program, kSlot2, kSlot1); }
-
-void ShowSlotAtLoad(Program& program, const Slot& slot) {
-  const ProjectState& s = program.state;
-  BoxResponse& form = program.windows.frmgrafcassa;
-  (form.*slot.tick).visible = s.*slot.stored;
-  (form.*slot.tick).checked = s.*slot.shown;
-  (form.*slot.save_entry).enabled = s.*slot.shown;
-}
-
-void DisableCalibration(BoxResponse& form) {
-  for (Control* const control : {&form.cmdpiu, &form.cmdmeno, &form.txtdbcal, &form.cmdcalibra}) {
-    control->enabled = false;
-  }
-}
+void cmdset1_Click(Program& program) { StoreTrace(program, BoxTraces(program), 0); }
+void cmdset2_Click(Program& program) { StoreTrace(program, BoxTraces(program), 1); }
+void chkonoff1_Click(Program& program) { ToggleTrace(program, BoxTraces(program), 0); }
+void chkonoff2_Click(Program& program) { ToggleTrace(program, BoxTraces(program), 1); }
 
 void frmgrafcassa_Load(Program& program) {
   BoxResponse& form = program.windows.frmgrafcassa;
@@ -113,10 +48,11 @@ void frmgrafcassa_Load(Program& program) {
   form.OverlayFreq.clear();
   form.OverlayDb.clear();
   form.CalibrationDb = 0.0;
-  ShowSlotAtLoad(program, kSlot1);
-  ShowSlotAtLoad(program, kSlot2);
+  const TraceGraph graph = BoxTraces(program);
+  ShowTraceTicks(graph);
+  for (const TraceSlot& slot : graph.slots) slot.save_entry->enabled = *slot.shown;
   form.cmdsomma.enabled = form.cmdcancella.enabled = false;
-  DisableCalibration(form);
+  EnableCalibration(program, false);
   program.state.GrafCassaOpen = true;
   RidisegnaCassa(program);
 }
@@ -139,44 +75,29 @@ void frmgrafcassa_Unload(Program& program) {
   program.state.GrafCassaOpen = false;
 }
 
-void ForgetSlots(Program& program) {
-  ProjectState& s = program.state;
-  BoxResponse& form = program.windows.frmgrafcassa;
-  s.Set1BoxFreq.clear();  // slot 2 keeps its arrays, without effect: its flags fall
-  s.Set1BoxDb.clear();
-  for (const Slot* const slot : {&kSlot1, &kSlot2}) {
-    s.*slot->stored = s.*slot->shown = false;
-    (form.*slot->tick).visible = (form.*slot->tick).checked = false;
-  }
-}
-
 void cmdcancella_Click(Program& program) {
   ProjectState& s = program.state;
   BoxResponse& form = program.windows.frmgrafcassa;
-  DrawPlain(program);
+  DrawPlainBox(program);
   DropBoxSum(program);
-  ForgetSlots(program);
-  for (Curve* const curve : {&s.SumPhaseDeg, &form.OverlayFreq, &form.OverlayDb, &s.FilterFreq, &s.FilterDb}) {
+  ForgetBoxTraces(program);
+  // Slot 2 keeps its arrays, without effect: its flags have fallen.
+  for (Curve* const curve : {&s.Set1BoxFreq, &s.Set1BoxDb, &s.SumPhaseDeg, &form.OverlayFreq, &form.OverlayDb, &s.FilterFreq, &s.FilterDb}) {
     curve->clear();
   }
   AssignText(program, form.txtdbcal, "0");
-  DisableCalibration(form);
+  EnableCalibration(program, false);
   s.FilterComputed = false;
   CloseWindow(program, "frmFase");
+  if (form.released != nullptr) form.released(program);
 }
 
 void mnuimportatracciato_Click(Program& program) {
-  Trace trace;
-  if (!ImportTrace(program, program.Text(468), trace)) return;
-  DisegnaCurva(trace.x, trace.y, program.state.BoxScaleTop, program.windows.frmgrafcassa.surface, trace.colour);
+  PaintTraceFile(program, BoxTraces(program), program.Text(468));
 }
 
-void SaveSlot(Program& program, const Slot& slot) {
-  SaveTrace(program, slot.colour, program.state.*slot.freq, program.state.*slot.db);
-}
-
-void mnusalvatracciatorosso_Click(Program& program) { SaveSlot(program, kSlot1); }
-void mnusalvatracciatoblu_Click(Program& program) { SaveSlot(program, kSlot2); }
+void mnusalvatracciatorosso_Click(Program& program) { SaveTraceSlot(program, BoxTraces(program), 0); }
+void mnusalvatracciatoblu_Click(Program& program) { SaveTraceSlot(program, BoxTraces(program), 1); }
 
 void mnuchiudigraf_Click(Program& program) { CloseWindow(program, program.windows.frmgrafcassa.window); }
 
@@ -191,15 +112,32 @@ void pctgraf_MouseUp(Program& program) { HideReadout(program.windows.frmgrafcass
 
 }  // namespace
 
-void RidisegnaCassa(Program& program) {
+void DrawPlainBox(Program& program) {
   const ProjectState& s = program.state;
+  Surface& surface = program.windows.frmgrafcassa.surface;
+  surface.Clear();
+  GrigliaCassa(s.BoxScaleTop, surface);
+  DisegnaCurva(s.BoxFreq, s.BoxDb, s.BoxScaleTop, surface, colour::kBlack);
+}
+
+void RidisegnaCassa(Program& program) {
   Window& window = program.windows.frmgrafcassa.window;
   LoadWindow(program, window);
-  DrawPlain(program);
-  if (s.Set1BoxShown) DrawSlot(program, kSlot1);
-  if (s.Set2BoxShown) DrawSlot(program, kSlot2);
+  DrawPlainBox(program);
+  const TraceGraph graph = BoxTraces(program);
+  if (program.state.Set1BoxShown) DrawTrace(graph, 0);
+  if (program.state.Set2BoxShown) DrawTrace(graph, 1);
   BringToFront(program, window);
   SendToBack(program, program.windows.frmthsm.window);
+}
+
+void ForgetBoxTraces(Program& program) { ForgetTraces(BoxTraces(program)); }
+
+void EnableCalibration(Program& program, bool enabled) {
+  BoxResponse& form = program.windows.frmgrafcassa;
+  for (Control* const control : {&form.cmdpiu, &form.cmdmeno, &form.txtdbcal, &form.cmdcalibra}) {
+    control->enabled = enabled;
+  }
 }
 
 void DropBoxSum(Program& program) {

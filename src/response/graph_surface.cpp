@@ -11,7 +11,11 @@ namespace {
 
 constexpr int kZeroDecibel = 40;     // a box level of 0 dB is stored as 40
 constexpr double kBoxGridLeft = 20;  // the x at the left edge of the box plot
-constexpr double kImpedanceGridLeft = 10;
+constexpr double kLowGridLeft = 10;        // of the plots that begin at 3.16 Hz
+constexpr int kExcursionGridLimit = 1000;  // Hz
+constexpr int kLevelGridLimit = 2000;
+constexpr int kLevelStep = 10;     // dB or m/s
+constexpr int kPhaseHeight = 360;  // degrees
 constexpr int kImpedanceGridLimit = 10000;  // Hz
 constexpr int kBoxGridLimit = 5000;  // Hz
 
@@ -74,8 +78,38 @@ void GrigliaCassa(int top, Surface& surface) {
 }
 
 void GrigliaImpedenza(int top, Surface& surface) {
-  DrawLevels(surface, top, GridStep(top), 0, kImpedanceGridLeft);
+  DrawLevels(surface, top, GridStep(top), 0, kLowGridLeft);
   DrawFrequencies(surface, kImpedanceGridLimit);
+}
+
+void GrigliaEscursione(int top, Surface& surface, double xmax) {
+  DrawLevels(surface, top, 1, 0, kLowGridLeft);
+  DrawFrequencies(surface, kExcursionGridLimit);
+  const double y = top - xmax;
+  surface.Line(0, y, 20 * Log10(kExcursionGridLimit), y, colour::kRed);
+}
+
+void GrigliaSpl(int top, Surface& surface) {
+  surface.scale.height = top;
+  DrawLevels(surface, top, kLevelStep, 0, kLowGridLeft);
+  DrawFrequencies(surface, kLevelGridLimit);
+}
+
+void GrigliaAria(int top, Surface& surface, double velocity) {
+  GrigliaSpl(top, surface);
+  const double right = 20 * Log10(kLevelGridLimit);
+  const double fast = top - velocity * 7.5 / 100;
+  const double slow = top - velocity * 5 / 100;
+  surface.Line(0, fast, right, fast, colour::kRed);
+  surface.Line(0, slow, right, slow, colour::kBlue);
+}
+
+void GrigliaFase(Surface& surface) {
+  for (int level = 0; level <= kPhaseHeight; level += 45) {
+    const double y = kPhaseHeight - level;
+    surface.Line(0, y, surface.scale.width + kBoxGridLeft, y, colour::kBlack);
+  }
+  DrawFrequencies(surface, kBoxGridLimit);
 }
 
 void ShowReadout(const Surface& surface, Control& readout, double x, double y, double value,
@@ -84,7 +118,8 @@ void ShowReadout(const Surface& surface, Control& readout, double x, double y, d
   const std::string hertz = FormatTwoDecimals(std::pow(10.0, x / 20));
   const std::string shown = FormatTwoDecimals(value);
   // The width leaves out the words in between, as wanted.
-  readout.width = static_cast<double>((hertz + " " + shown).size());
+  const std::string measured = style.width_of != nullptr ? FormatTwoDecimals(*style.width_of) : shown;
+  readout.width = static_cast<double>((hertz + " " + measured).size());
   *readout.text = hertz + " Hz ; " + shown + style.unit;
   readout.left = x > scale.width / 2 + 7 ? x - readout.width + 7 : x + 1;
   const double twips_per_unit = Divide(surface.twips_height, scale.height);

@@ -26,10 +26,24 @@ void GrigliaCassa(int top, Surface& surface);
 /// The grid and the value labels of a measured impedance.
 void GrigliaImpedenza(int top, Surface& surface);
 
+/// The grid of the excursion graph, with a red line at the largest excursion in mm.
+void GrigliaEscursione(int top, Surface& surface, double xmax);
+
+/// The grid of the level graphs: it sets the height of the plot first, so that they rescale at each redraw.
+void GrigliaSpl(int top, Surface& surface);
+
+/// The grid of the air speed graph, which rescales too, with lines at 7.5 (red) and 5 percent (blue) of the speed
+/// of sound in m/s.
+void GrigliaAria(int top, Surface& surface, double velocity);
+
+/// The grid of the phase graph; its labels are fixed.
+void GrigliaFase(Surface& surface);
+
 /// The units of a read-out, and where it stands under the mouse.
 struct ReadoutStyle {
-  const char* unit;
+  const char* unit = "";
   double below_twips = 60;
+  const double* width_of = nullptr;  // the value whose text gives the width, when it is not the one shown
 };
 
 /// Shows the read-out at the mouse, with the frequency of X and a value; hides it again.

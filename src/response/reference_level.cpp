@@ -4,6 +4,10 @@
 
 namespace zefirondo {
 
+DriverInputs GatherDriver(const ProjectState& state) {
+  return {TransducerFs(state), state.Vas, ReadNumber(state.txtqes)};
+}
+
 double ReferenceLevel(const ProjectState& state, double fs, double vas, double qes) {
   const double velocity_cubed = state.Velocity * state.Velocity * state.Velocity;
   const double efficiency = Divide(4 * (kPi * kPi), velocity_cubed) * (fs * fs * fs) * Divide(vas, qes);

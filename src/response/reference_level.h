@@ -7,6 +7,15 @@
 
 namespace zefirondo {
 
+/// What the level and excursion curves take from the sheet: Fs in Hz, Vas of one transducer in m³, Qes.
+struct DriverInputs {
+  double fs = 0.0;
+  double vas = 0.0;
+  double qes = 0.0;
+};
+
+[[nodiscard]] DriverInputs GatherDriver(const ProjectState& state);
+
 /// The level in dB SPL of one transducer on the flat part of its response. `fs` is in Hz, `vas` in m³ and of one
 /// transducer. The sensitivity that the builder typed has no part in it, as wanted.
 /// Throws `RunTimeError` for a zero Q, `LogarithmError` for a zero efficiency.

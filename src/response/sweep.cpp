@@ -54,11 +54,17 @@ VentedResponse::VentedResponse(double vb, double fs_hertz, double qts, double fb
   c = Divide(fb, ql * fs) + Divide(1, qts);
 }
 
+void BeginArithmetic() { std::feclearexcept(FE_ALL_EXCEPT); }
+
+void CheckArithmetic() {
+  if (std::fetestexcept(FE_OVERFLOW) != 0) throw RunTimeError(ErrorNumber::Overflow);
+  if (std::fetestexcept(FE_DIVBYZERO | FE_INVALID) != 0) throw RunTimeError(ErrorNumber::DivisionByZero);
+}
+
 namespace detail {
 
 void CheckPoint(double squared_magnitude) {
-  if (std::fetestexcept(FE_OVERFLOW) != 0) throw RunTimeError(ErrorNumber::Overflow);
-  if (std::fetestexcept(FE_DIVBYZERO | FE_INVALID) != 0) throw RunTimeError(ErrorNumber::DivisionByZero);
+  CheckArithmetic();
   if (!(squared_magnitude > 0.0)) throw LogarithmError();
 }
 

@@ -68,6 +68,11 @@ struct VentedResponse {
   }
 };
 
+/// Arithmetic that runs unguarded stands between these two. The second throws `RunTimeError` (overflow, or division
+/// by zero) when any operation between them failed.
+void BeginArithmetic();
+void CheckArithmetic();
+
 namespace detail {
 void CheckPoint(double squared_magnitude);
 void FinishLevels(Curve& levels, std::size_t points, double offset, LevelSweep& sweep);
@@ -85,7 +90,7 @@ LevelSweep SweepLevels(const SquaredMagnitude& response, std::size_t points, dou
   FillAbscissa(abscissa, points);
   levels.resize(points + 1);
   levels[points] = 0.0;
-  std::feclearexcept(FE_ALL_EXCEPT);
+  BeginArithmetic();
   for (std::size_t i = 0; i < points; ++i) levels[i] = response(hertz[i]);
   detail::FinishLevels(levels, points, offset, sweep);
   if (std::fetestexcept(FE_DIVBYZERO | FE_INVALID | FE_OVERFLOW) == 0) return sweep;
@@ -93,7 +98,7 @@ LevelSweep SweepLevels(const SquaredMagnitude& response, std::size_t points, dou
   abscissa.clear();
   levels.resize(1);  // each point goes through memory, so that its flags are raised before they are read
   for (std::size_t i = 0; i < points; ++i) {
-    std::feclearexcept(FE_ALL_EXCEPT);
+    BeginArithmetic();
     levels[0] = response(hertz[i]);
     detail::CheckPoint(levels[0]);
   }

@@ -358,8 +358,8 @@ std::string ValueText(const std::string& name, const ValueRef& value) {
   return std::visit(
       [&](const auto& pointer) -> std::string {
         using T = std::remove_cvref_t<decltype(pointer)>;
-        if constexpr (std::is_same_v<T, const double*>) {
-          return NumberText(*pointer);
+        if constexpr (std::is_same_v<T, const double*> || std::is_same_v<T, const float*>) {
+          return NumberText(static_cast<double>(*pointer));
         } else if constexpr (std::is_same_v<T, const bool*>) {
           return Flag(*pointer);
         } else if constexpr (std::is_same_v<T, const std::string*>) {

@@ -132,19 +132,35 @@ void Binder::Show() {
 
 bool Binder::eventFilter(QObject* object, QEvent* event) {
   if (!stage_.Listening()) return false;
-  if (event->type() == QEvent::Shortcut && LabelShortcut(object)) return true;
+  if (event->type() == QEvent::Shortcut) return Shortcut(object, *static_cast<QShortcutEvent*>(event));
   if (Pair* const pair = watched_.value(object)) return pair->widget->isEnabled() && WidgetEvent(*pair, object, *event);
   Window* const window = grounds_.value(object);
   return window != nullptr && event->type() == QEvent::KeyPress && GroundKey(*window, *static_cast<QKeyEvent*>(event));
 }
 
-/// The mnemonic of a label leads to its field, as a person's act.
-bool Binder::LabelShortcut(const QObject* object) {
-  const auto* const label = qobject_cast<const QLabel*>(object);
-  Pair* const pair = label == nullptr ? nullptr : watched_.value(label->buddy());
-  if (pair == nullptr) return false;
-  Arrive(*pair);
+/// The mnemonic of a label leads to its field, as a person's act. One that a button shares with the menu bar is
+/// the button's; one that two buttons share leads to each in turn.
+bool Binder::Shortcut(const QObject* object, const QShortcutEvent& event) {
+  if (const auto* const label = qobject_cast<const QLabel*>(object)) {
+    Pair* const field = watched_.value(label->buddy());
+    if (field != nullptr) Arrive(*field);
+    return field != nullptr;
+  }
+  Pair* const button = watched_.value(object);
+  if (button == nullptr || button->control->kind != ControlKind::Button || !event.isAmbiguous()) return false;
+  Control& control = *button->control;
+  stage_.Act([&] { HasTwin(*button) ? Focus(stage_.program, control) : Click(stage_.program, control); });
   return true;
+}
+
+/// Whether another button that can be pressed has the same mnemonic.
+bool Binder::HasTwin(const Pair& pair) const {
+  const QKeySequence key = static_cast<QAbstractButton*>(pair.widget)->shortcut();
+  return std::any_of(pairs_.begin(), pairs_.end(), [&](const std::unique_ptr<Pair>& other) {
+    const auto* const button = qobject_cast<const QAbstractButton*>(other->widget);
+    return button != nullptr && button != pair.widget && button->isVisible() && button->isEnabled() &&
+           button->shortcut() == key;
+  });
 }
 
 bool Binder::WidgetEvent(Pair& pair, QObject* object, QEvent& event) {

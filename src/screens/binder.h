@@ -19,6 +19,7 @@ class QContextMenuEvent;
 class QKeyEvent;
 class QLabel;
 class QMouseEvent;
+class QShortcutEvent;
 
 namespace zefirondo::screens {
 
@@ -50,7 +51,8 @@ class Binder : public QObject {
  private:
   void Watch(QObject* object, Pair& pair);
   void ConnectSignals(Pair& pair);
-  bool LabelShortcut(const QObject* object);
+  bool Shortcut(const QObject* object, const QShortcutEvent& event);
+  [[nodiscard]] bool HasTwin(const Pair& pair) const;
   bool WidgetEvent(Pair& pair, QObject* object, QEvent& event);
   bool MousePressed(Pair& pair, const QObject* object, const QMouseEvent& event);
   bool PressedField(Pair& pair, const QObject* object);

@@ -25,10 +25,10 @@ TEST(AriaDaTP, IsAnIdealGas) {
   struct Row {
     double temperature, pressure, roo, velocity;
   };
-  for (const Row& row : {Row{25, 101325, kModelRoo, kModelVelocity}, Row{0, 101325, 1.2922462154287495, 331.4189810413605},
-                         Row{30, 101325, 1.16436435343679, 349.1447866076561},
-                         Row{20, 95000, 1.1289210425015224, 343.33788266813065},
-                         Row{-273, 101325, 2353.1803582961093, 7.766447392730545}}) {
+  for (const Row& row :
+       {Row{25, 101325, kModelRoo, kModelVelocity}, Row{0, 101325, 1.2922462154287495, 331.4189810413605},
+        Row{30, 101325, 1.16436435343679, 349.1447866076561}, Row{20, 95000, 1.1289210425015224, 343.33788266813065},
+        Row{-273, 101325, 2353.1803582961093, 7.766447392730545}}) {
     const Air air = AriaDaTP(row.temperature, row.pressure);
     EXPECT_NEAR(air.roo / row.roo, 1.0, 1e-14);
     EXPECT_NEAR(air.velocity / row.velocity, 1.0, 1e-14);
@@ -156,7 +156,7 @@ TEST_F(AirPage, RewritesTheFieldOfVasButNotItsNumber) {
   *desk["txtcas"].text = "0.65E-06";
   desk.state.Vas = 0.1;
   desk.Set("txttemperatura", "30");
-  // 349.1447866² · (0.65e-6 · 1.164364353) = 0.0922582...
+  // 349.1447866² · (0.65e-6 · 1.164364353) = 0.0922599...
   EXPECT_EQ(desk.Text("txtvas"), "0.09225");
   EXPECT_EQ(desk.state.Vas, 0.1);
 }

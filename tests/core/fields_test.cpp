@@ -353,15 +353,15 @@ TEST(GettingTheFocus, OfTheTiltRemembersItsNumberWhenAboveZero) {
 
 class NonZeroField : public testing::TestWithParam<Place> {};
 
-INSTANTIATE_TEST_SUITE_P(
-    Sheet, NonZeroField,
-    testing::Values(Place{"txtbl", "par"}, Place{"txtdiambob", "dim"}, Place{"txtesterno", "dim"},
-                    Place{"txtforo", "dim"}, Place{"txtfs", "par"}, Place{"txtlagmagne", "dim"},
-                    Place{"txtprof", "dim"}, Place{"txtprofmag", "dim"}, Place{"txtqmesin", "par"},
-                    Place{"txtspesbordo", "dim"}, Place{"txtvas", "par"}, Place{"txtimpedenza", "gen"},
-                    Place{"txtpotenza", "gen"}, Place{"txtsensibilita", "gen"}, Place{"txtxmax", "gen"},
-                    Place{"txtmms", "par"}, Place{"txtqes", "par"}, Place{"txtqts", "par"}, Place{"txtzmax", "par"},
-                    Place{"txtsd", "par"}, Place{"txtrvc", "par"}));
+INSTANTIATE_TEST_SUITE_P(Sheet, NonZeroField,
+                         testing::Values(Place{"txtbl", "par"}, Place{"txtdiambob", "dim"}, Place{"txtesterno", "dim"},
+                                         Place{"txtforo", "dim"}, Place{"txtfs", "par"}, Place{"txtlagmagne", "dim"},
+                                         Place{"txtprof", "dim"}, Place{"txtprofmag", "dim"}, Place{"txtqmesin", "par"},
+                                         Place{"txtspesbordo", "dim"}, Place{"txtvas", "par"},
+                                         Place{"txtimpedenza", "gen"}, Place{"txtpotenza", "gen"},
+                                         Place{"txtsensibilita", "gen"}, Place{"txtxmax", "gen"},
+                                         Place{"txtmms", "par"}, Place{"txtqes", "par"}, Place{"txtqts", "par"},
+                                         Place{"txtzmax", "par"}, Place{"txtsd", "par"}, Place{"txtrvc", "par"}));
 
 TEST_P(NonZeroField, HoldsTheFocusWhileItReadsAsZero) {
   for (const char* const text : {"", "0", "0.0", "abc", ".", "0e5"}) {
@@ -449,10 +449,10 @@ TEST(LeavingRe, GoesWhereThePersonWantsWithoutQms) {
 
 class ZeroTextField : public testing::TestWithParam<Place> {};
 
-INSTANTIATE_TEST_SUITE_P(
-    Sheet, ZeroTextField,
-    testing::Values(Place{"txthg", "gen"}, Place{"txtle", "gen"}, Place{"txtrendimento", "gen"}, Place{"txtld", "ref"},
-                    Place{"txttemperatura", "imp"}, Place{"txtpressione", "imp"}));
+INSTANTIATE_TEST_SUITE_P(Sheet, ZeroTextField,
+                         testing::Values(Place{"txthg", "gen"}, Place{"txtle", "gen"}, Place{"txtrendimento", "gen"},
+                                         Place{"txtld", "ref"}, Place{"txttemperatura", "imp"},
+                                         Place{"txtpressione", "imp"}));
 
 TEST_P(ZeroTextField, GivesTheFocusBackForALoneZero) {
   OpenField open(GetParam());
@@ -586,7 +586,8 @@ bool ComesOnWith(bool impedance, std::vector<const char*> fields, const char* la
 
 TEST(Compute, ComesOnWithTheLastFieldOfAnImpedanceProject) {
   for (const char* const area : {"txtd", "txtsd"}) {
-    for (const char* const last : kImpedanceFields) EXPECT_TRUE(ComesOnWith(true, kImpedanceFields, last, area)) << last;
+    for (const char* const last : kImpedanceFields)
+      EXPECT_TRUE(ComesOnWith(true, kImpedanceFields, last, area)) << last;
     EXPECT_TRUE(ComesOnWith(true, kImpedanceFields, area, area)) << area;
   }
 }

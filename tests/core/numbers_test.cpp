@@ -64,15 +64,16 @@ INSTANTIATE_TEST_SUITE_P(WorkedNumbers, FormatNumberOf,
                                          Shown{0.000123456789, "123.456E-06"}, Shown{0.0000005, "0.5E-06"},
                                          Shown{-12.3456, "-12.345"}, Shown{-0.5, "0.5"}, Shown{-0.0001, "0.0001"}));
 
-INSTANTIATE_TEST_SUITE_P(
-    Edges, FormatNumberOf,
-    testing::Values(Shown{0.001, "0.001"}, Shown{0.00099999, "999.99E-06"}, Shown{-0.0, "0"}, Shown{7, "7"},
-                    Shown{1000000, "1000000"}, Shown{123456.78, "123456."}, Shown{99999.99, "99999.9"},
-                    Shown{-1234567.8, "-123456"}, Shown{2e28, "2000000"}, Shown{1e-10, "0.0001E-06"},
-                    Shown{1e-20, "0.00000E-06"}, Shown{1e-40, "0"}, Shown{-1e-40, "0"}, Shown{-0.1234567, "0.12345"},
-                    Shown{-1.5, "-1.5"}, Shown{1.0 / 3, "0.33333"}, Shown{0.1 + 0.2, "0.3"},
-                    // 15 significant digits make it 0.001, which is not below 0.001.
-                    Shown{0.00099999999999999980, "0.001"}));
+INSTANTIATE_TEST_SUITE_P(Edges, FormatNumberOf,
+                         testing::Values(Shown{0.001, "0.001"}, Shown{0.00099999, "999.99E-06"}, Shown{-0.0, "0"},
+                                         Shown{7, "7"}, Shown{1000000, "1000000"}, Shown{123456.78, "123456."},
+                                         Shown{99999.99, "99999.9"}, Shown{-1234567.8, "-123456"},
+                                         Shown{2e28, "2000000"}, Shown{1e-10, "0.0001E-06"},
+                                         Shown{1e-20, "0.00000E-06"}, Shown{1e-40, "0"}, Shown{-1e-40, "0"},
+                                         Shown{-0.1234567, "0.12345"}, Shown{-1.5, "-1.5"}, Shown{1.0 / 3, "0.33333"},
+                                         Shown{0.1 + 0.2, "0.3"},
+                                         // 15 significant digits make it 0.001, which is not below 0.001.
+                                         Shown{0.00099999999999999980, "0.001"}));
 
 TEST(FormatNumber, ShowsAtMostElevenCharacters) {
   for (double value = 1.23456789e-9; value < 1e20; value *= 7.3) {
@@ -104,13 +105,14 @@ TEST_P(FormatNumberFullOf, KeepsFifteenDigitsWithoutExponent) {
   EXPECT_EQ(FormatNumberFull(GetParam().value), GetParam().text);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Values, FormatNumberFullOf,
-    testing::Values(Shown{0, "0"}, Shown{35, "35"}, Shown{-35.5, "-35.5"}, Shown{0.35, "0.35"}, Shown{-0.35, "0.35"},
-                    Shown{0.000123456789, "0.000123456789"}, Shown{1.0 / 3, "0.333333333333333"},
-                    Shown{2.0 / 3, "0.666666666666667"}, Shown{1.40082347812345678, "1.40082347812346"},
-                    Shown{123456789012345678.0, "123456789012346000"}, Shown{1e20, "100000000000000000000"},
-                    Shown{1e-10, "0.0000000001"}, Shown{-1234567890.125, "-1234567890.125"}));
+INSTANTIATE_TEST_SUITE_P(Values, FormatNumberFullOf,
+                         testing::Values(Shown{0, "0"}, Shown{35, "35"}, Shown{-35.5, "-35.5"}, Shown{0.35, "0.35"},
+                                         Shown{-0.35, "0.35"}, Shown{0.000123456789, "0.000123456789"},
+                                         Shown{1.0 / 3, "0.333333333333333"}, Shown{2.0 / 3, "0.666666666666667"},
+                                         Shown{1.40082347812345678, "1.40082347812346"},
+                                         Shown{123456789012345678.0, "123456789012346000"},
+                                         Shown{1e20, "100000000000000000000"}, Shown{1e-10, "0.0000000001"},
+                                         Shown{-1234567890.125, "-1234567890.125"}));
 
 TEST(Log10, IsTheQuotientOfNaturalLogarithms) {
   EXPECT_EQ(Log10(1), 0.0);

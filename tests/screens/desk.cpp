@@ -70,12 +70,19 @@ void Desk::AnswerBox() {
   }
 }
 
+/// A desktop gives the frame back its activity when a message box closes; this screen does not.
+void Desk::Activate() const {
+  if (QApplication::activeModalWidget() == nullptr && !frame->isActiveWindow()) QApplication::setActiveWindow(frame.get());
+}
+
 void Desk::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) const {
+  Activate();
   QTest::keyClick(frame->windowHandle(), key, modifiers);
   QCoreApplication::processEvents();
 }
 
 void Desk::Type(const QString& text) const {
+  Activate();
   for (const QChar c : text) QTest::keyClick(frame->windowHandle(), c.toLatin1());
   QCoreApplication::processEvents();
 }
@@ -117,7 +124,9 @@ void Desk::Fill(const QString& name, const QString& text) {
 
 void Desk::NewProject() {
   Key(Qt::Key_P, Qt::AltModifier);
-  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_P);
+  QWidget* const menu = QApplication::activePopupWidget();
+  if (menu == nullptr) QTest::qFail("no menu opened", __FILE__, __LINE__);
+  if (menu != nullptr) QTest::keyClick(menu, Qt::Key_P);
   QCoreApplication::processEvents();
 }
 

@@ -97,6 +97,7 @@ class Desk {
     std::optional<Qt::Key> key;
   };
 
+  void Activate() const;
   void AnswerBox();
   [[nodiscard]] QPoint InWindow(const QWidget& widget, std::optional<QPoint> at) const;
 

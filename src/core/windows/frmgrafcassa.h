@@ -24,6 +24,7 @@ struct BoxResponse {
 
   Curve OverlayFreq, OverlayDb;  // the imported response, level + 40
   double CalibrationDb = 0.0;
+  void (*released)(Program&) = nullptr;  // told when the plain state was restored
 
   explicit BoxResponse(ProjectState& state);
 };

@@ -1,0 +1,53 @@
+#include "core/windows/frmescursione.h"
+
+#include "core/windows/describe.h"
+
+namespace zefirondo {
+namespace {
+
+using Form = ExcursionGraph;
+using enum ControlKind;
+
+// clang-format off
+const std::vector<ControlRow<Form>> kRows{
+    {Label, CONTROL(lbltitolo), {.caption = 204}},
+    {Plot, CONTROL(pctgrafex), {}},
+    {Picture, CONTROL(pctvalori), {}},
+    {Label, CONTROL(txtpos), {.visible = false}},
+    {Label, CONTROL(lbldb), {.caption = "mm"}},
+    {Label, CONTROL(lblfrequenza), {.caption = 242}},
+    {Label, CONTROL(lblescursione), {.caption = 233}},
+    {Picture, CONTROL(Line1), {.back = colour::kRed}},
+    {Label, CONTROL(lblpot), {.caption = 234}},
+    {TextBox, CONTROL(txtpot), {}},
+    {Label, CONTROL(lblrms), {.caption = "W rms"}},
+    {Button, CONTROL(cmdcalc), {.caption = 235}},
+    {Menu, CONTROL(mnufileex), {.caption = "&File"}},
+    {MenuEntry, CONTROL(mnuchiudi), {.caption = 458, .parent = "mnufileex"}},
+    {Menu, CONTROL(mnuvisualizza), {.caption = 428}},
+    {MenuEntry, CONTROL(mnugraffase), {.caption = 429, .parent = "mnuvisualizza"}},
+    {MenuEntry, CONTROL(mnuspl), {.caption = 430, .parent = "mnuvisualizza"}},
+    {MenuEntry, CONTROL(mnusplmax), {.caption = 433, .parent = "mnuvisualizza"}},
+    {MenuEntry, CONTROL(mnuairspeed), {.caption = 432, .parent = "mnuvisualizza"}},
+    {MenuEntry, CONTROL(mnucalcolatrice), {.caption = 414}},
+    {Menu, CONTROL(mnuinfo3), {.caption = "&?"}},
+    {MenuEntry, CONTROL(mnuguida), {.caption = 415, .parent = "mnuinfo3"}},
+    {MenuEntry, CONTROL(mnuinformazioni), {.caption = 416, .parent = "mnuinfo3"}},
+};
+// clang-format on
+
+}  // namespace
+
+ExcursionGraph::ExcursionGraph(ProjectState& state) {
+  window.name = "frmescursione";
+  window.caption_design = 231;
+  window.design_left = 5000;
+  window.design_top = 715;
+  pctgrafex.surface = &surface;
+  pctgrafex.readout = &txtpos;
+  surface.twips_width = 8850;
+  surface.twips_height = 6015;
+  DescribeWindow(*this, state, kRows);
+}
+
+}  // namespace zefirondo

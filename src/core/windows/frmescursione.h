@@ -1,0 +1,22 @@
+// `frmescursione`, the excursion of the cone at an applied power.
+#pragma once
+
+#include "core/controls.h"
+
+namespace zefirondo {
+
+struct ExcursionGraph {
+  Window window;
+  Surface surface;
+  Control lbltitolo, pctgrafex, pctvalori, txtpos, lbldb, lblfrequenza, lblescursione, Line1;
+  Control lblpot, txtpot, lblrms, cmdcalc;
+
+  Control mnufileex, mnuchiudi;
+  Control mnuvisualizza, mnugraffase, mnuspl, mnusplmax, mnuairspeed;
+  Control mnucalcolatrice;
+  Control mnuinfo3, mnuguida, mnuinformazioni;
+
+  explicit ExcursionGraph(ProjectState& state);
+};
+
+}  // namespace zefirondo

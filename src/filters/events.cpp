@@ -1,0 +1,13 @@
+#include "filters/events.h"
+
+#include "filters/filter_designer.h"
+#include "filters/summation.h"
+
+namespace zefirondo {
+
+void ConnectFilters(Program& program) {
+  ConnectFilterDesigner(program);
+  ConnectSummation(program);
+}
+
+}  // namespace zefirondo
