@@ -312,7 +312,24 @@ bool Binder::FieldKey(Pair& pair, const QKeyEvent& event) {
 bool Binder::ButtonKey(Pair& pair, const QKeyEvent& event) {
   const bool pushes = (IsEnter(event) || event.key() == Qt::Key_Space) && !WithCommand(event);
   if (pushes && !event.isAutoRepeat()) stage_.Act([&] { Click(stage_.program, *pair.control); });
+  if (IsArrow(event) && pair.control->kind == ControlKind::Option) {
+    const bool back = event.key() == Qt::Key_Left || event.key() == Qt::Key_Up;
+    SelectNeighbourOption(*pair.control, back ? -1 : +1);
+  }
   return pushes || IsArrow(event);
+}
+
+/// The arrow keys go from one option of a frame to the next.
+void Binder::SelectNeighbourOption(const Control& option, int step) {
+  std::vector<Control*> options = option.window->controls;
+  std::erase_if(options, [&](const Control* other) {
+    return other->kind != ControlKind::Option || other->parent != option.parent ||
+           WhyNot(stage_.program, *other) != Refusal::None;
+  });
+  const auto here = std::find(options.begin(), options.end(), &option);
+  const std::ptrdiff_t place = here - options.begin() + step;
+  if (here == options.end() || place < 0 || place >= std::ssize(options)) return;
+  stage_.Act([&] { Click(stage_.program, *options[static_cast<std::size_t>(place)]); });
 }
 
 /// The page keys with Ctrl turn the pages of the sheet.

@@ -63,6 +63,7 @@ class Binder : public QObject {
   bool CommonKey(Pair& pair, const QKeyEvent& event);
   bool FieldKey(Pair& pair, const QKeyEvent& event);
   bool ButtonKey(Pair& pair, const QKeyEvent& event);
+  void SelectNeighbourOption(const Control& option, int step);
   bool GroundKey(Window& window, const QKeyEvent& event);
   bool SheetKey(const Window& window, const QKeyEvent& event);
   void EnterWindow(Window& window, bool backwards);

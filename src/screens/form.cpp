@@ -54,12 +54,19 @@ QLabel* MakeLabel(QWidget* parent) {
   return label;
 }
 
+/// The data say which option is set, and that none is.
+QWidget* MakeOption(QWidget* parent) {
+  auto* const option = new QRadioButton(parent);
+  option->setAutoExclusive(false);
+  return option;
+}
+
 QWidget* MakePlain(const Control& control, QWidget* parent) {
   switch (control.kind) {
     case ControlKind::TextBox: return MakeTextBox(control, parent);
     case ControlKind::ComboBox: return MakeComboBox(control, parent);
     case ControlKind::CheckBox: return new QCheckBox(parent);
-    case ControlKind::Option: return new QRadioButton(parent);
+    case ControlKind::Option: return MakeOption(parent);
     case ControlKind::Button: return new QPushButton(parent);
     case ControlKind::ProgressBar: return new QProgressBar(parent);
     default: return MakeLabel(parent);

@@ -3,10 +3,14 @@
 
 class QWidget;
 
+namespace zefirondo {
+struct Window;
+}
+
 namespace zefirondo::screens {
 
 class Binder;
 
-void BuildBoxResponse(Binder& binder, QWidget* content);
+void BuildBoxResponse(Binder& binder, Window& window, QWidget* content);
 
 }  // namespace zefirondo::screens

@@ -139,7 +139,7 @@ void BuildSettingsPage(Binder& binder, Sheet& sheet, QStackedWidget& pages) {
 
 }  // namespace
 
-void BuildSheet(Binder& binder, QWidget* content) {
+void BuildSheet(Binder& binder, Window& /*window*/, QWidget* content) {
   Sheet& sheet = binder.stage().program.windows.frmthsm;
   auto* const column = new QVBoxLayout(content);
   auto* const tabs = new QTabBar(content);

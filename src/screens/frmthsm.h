@@ -3,10 +3,14 @@
 
 class QWidget;
 
+namespace zefirondo {
+struct Window;
+}
+
 namespace zefirondo::screens {
 
 class Binder;
 
-void BuildSheet(Binder& binder, QWidget* content);
+void BuildSheet(Binder& binder, Window& window, QWidget* content);
 
 }  // namespace zefirondo::screens

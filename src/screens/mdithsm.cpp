@@ -11,10 +11,17 @@
 #include "core/acts.h"
 #include "core/events.h"
 #include "core/window_life.h"
-#include "screens/frmdimensioni.h"
+#include "screens/frmFase.h"
+#include "screens/frmairspeed.h"
+#include "screens/frmalfa.h"
+#include "screens/frmescursione.h"
 #include "screens/frmgrafcassa.h"
+#include "screens/frmgrafico.h"
+#include "screens/frmspl.h"
+#include "screens/frmsplMax.h"
 #include "screens/frmthsm.h"
 #include "screens/menu_bar.h"
+#include "screens/plain_form.h"
 #include "screens/qt_text.h"
 #include "screens/window_view.h"
 
@@ -29,16 +36,23 @@ struct ContentRow {
   BuildContent build;
 };
 
+/// The windows with a layout of their own; the others are rows of fields.
 constexpr std::array kContents = std::to_array<ContentRow>({
     {"frmthsm", BuildSheet},
     {"frmgrafcassa", BuildBoxResponse},
-    {"frmdimensioni", BuildDimensionEntry},
+    {"frmgrafico", BuildImpedanceGraph},
+    {"frmspl", BuildSplGraph},
+    {"frmsplMax", BuildSplMaxGraph},
+    {"frmescursione", BuildExcursionGraph},
+    {"frmairspeed", BuildAirSpeedGraph},
+    {"frmFase", BuildPhaseGraph},
+    {"frmalfa", BuildAlignmentChart},
 });
 
 BuildContent ContentOf(const Window& window) {
   const auto row = std::find_if(kContents.begin(), kContents.end(),
                                 [&](const ContentRow& candidate) { return candidate.window == window.name; });
-  return row == kContents.end() ? nullptr : row->build;
+  return row == kContents.end() ? BuildPlainForm : row->build;
 }
 
 }  // namespace
@@ -125,9 +139,7 @@ void MainFrameView::ShowWindow(Window& window) {
   WindowView* view = ViewOf(window);
   const bool wanted = window.open && !window.hidden;
   if (wanted && view == nullptr) {
-    const BuildContent build = ContentOf(window);
-    if (build == nullptr) return;
-    view = new WindowView(stage_, window, build);
+    view = new WindowView(stage_, window, ContentOf(window));
     area_->addSubWindow(view, view->windowFlags());
     views_.emplace(&window, view);
   }

@@ -9,18 +9,29 @@
 
 namespace zefirondo::screens {
 
-MenuBar::Entry MenuBar::MakeEntry(Control& control, const std::map<const Control*, QMenu*>& menus, Menus& made) {
+QMenu* MenuBar::MakeMenu(const Control& control) {
+  auto* const menu = new QMenu(this);
+  menu->setObjectName(QString::fromStdString(control.FullName()));
+  return menu;
+}
+
+QAction* MenuBar::MakeEntry(Control& control) {
   auto* const action = new QAction(this);
   action->setObjectName(QString::fromStdString(control.FullName()));
   connect(action, &QAction::triggered, this,
           [this, &control] { stage_.Act([&] { Choose(stage_.program, control); }); });
+  return action;
+}
+
+/// Puts an action into the menu that it belongs to, or on the bar.
+void MenuBar::AddAction(Control& control, QAction* action, const std::map<const Control*, QMenu*>& menus, Menus& made) {
   const auto menu = menus.find(control.parent);
   if (menu == menus.end()) {
     made.bar.push_back(action);
   } else {
     menu->second->addAction(action);
   }
-  return {&control, action};
+  made.entries.push_back({&control, action});
 }
 
 const MenuBar::Menus& MenuBar::MenusOf(Window& window) {
@@ -30,13 +41,11 @@ const MenuBar::Menus& MenuBar::MenusOf(Window& window) {
   std::map<const Control*, QMenu*> menus;
   for (Control* const control : window.controls) {
     if (control->kind == ControlKind::Menu) {
-      auto* const menu = new QMenu(this);
-      menu->setObjectName(QString::fromStdString(control->FullName()));
+      QMenu* const menu = MakeMenu(*control);
       menus.emplace(control, menu);
-      made.bar.push_back(menu->menuAction());
-      made.entries.push_back({control, menu->menuAction()});
+      AddAction(*control, menu->menuAction(), menus, made);
     } else if (control->kind == ControlKind::MenuEntry) {
-      made.entries.push_back(MakeEntry(*control, menus, made));
+      AddAction(*control, MakeEntry(*control), menus, made);
     }
   }
   return made;

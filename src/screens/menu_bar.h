@@ -27,7 +27,9 @@ class MenuBar : public QMenuBar {
   };
 
   const Menus& MenusOf(Window& window);
-  Entry MakeEntry(Control& control, const std::map<const Control*, QMenu*>& menus, Menus& made);
+  QMenu* MakeMenu(const Control& control);
+  QAction* MakeEntry(Control& control);
+  static void AddAction(Control& control, QAction* action, const std::map<const Control*, QMenu*>& menus, Menus& made);
 
   Stage& stage_;
   std::map<const Window*, Menus> made_;

@@ -67,7 +67,7 @@ void PlotPanel::paintEvent(QPaintEvent* /*event*/) {
 
 void PlotPanel::PaintValues(QPainter& painter) const {
   const int line = fontMetrics().height();
-  for (const StripLabel& label : surface_.labels) {
+  for (const StripLabel& label : fixed_values_.empty() ? surface_.labels : fixed_values_) {
     const double y = plot_->y() + label.at / surface_.scale.height * plot_->height();
     const QRectF place(0, y - line / 2.0, kStripWidth - kLabelGap - kBorder, line);
     painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter, ToQt(label.text));

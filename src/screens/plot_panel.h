@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <utility>
 #include <vector>
 
 #include "core/controls.h"
@@ -27,6 +28,9 @@ class PlotPanel : public QWidget {
   [[nodiscard]] PlotWidget* plot() const { return plot_; }
   [[nodiscard]] QSize sizeHint() const override;
 
+  /// Levels that stay the same, in place of the surface's own labels.
+  void SetFixedValues(std::vector<StripLabel> values) { fixed_values_ = std::move(values); }
+
   /// Brings plot, values and read-out in line with the data.
   void ShowSurface(const Control& readout);
 
@@ -40,6 +44,7 @@ class PlotPanel : public QWidget {
 
   const Surface& surface_;
   std::vector<FrequencyMark> marks_;
+  std::vector<StripLabel> fixed_values_;
   PlotWidget* plot_;
   std::uint64_t shown_ = 0;
 };

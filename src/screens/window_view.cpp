@@ -25,7 +25,7 @@ WindowView::WindowView(Stage& stage, Window& window, BuildContent build)
       ground_(new QWidget) {
   setObjectName(QString::fromUtf8(window.name.data(), static_cast<qsizetype>(window.name.size())));
   setFocusPolicy(Qt::NoFocus);
-  build(binder_, ground_);
+  build(binder_, window_, ground_);
   ShowData();  // before the layouts are asked for their size
   setWidget(ground_);
   binder_.WatchGround(ground_, window_);

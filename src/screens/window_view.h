@@ -9,7 +9,7 @@
 namespace zefirondo::screens {
 
 /// Fills a content widget with the widgets of a window.
-using BuildContent = void (*)(Binder& binder, QWidget* content);
+using BuildContent = void (*)(Binder& binder, Window& window, QWidget* content);
 
 /// A window in the frame. It closes when the program says so, never by itself.
 class WindowView : public QMdiSubWindow {

@@ -222,6 +222,16 @@ TEST(NumberOfTransducers, ClosedBoxIsSkippedWithoutATransducer) {
   }
 }
 
+TEST(NumberOfTransducers, HeldVolumeShowsItsApparentVolumeAnew) {
+  BoxDesk desk;
+  desk.DesignClosedBox();
+  desk.state.txtvolappa = "marker";
+  desk.state.VbaClosed = 1;
+  desk.ChooseDrivers("2", Answer::No);
+  EXPECT_EQ(desk.Text("txtvolappa"), "103.593");
+  ExpectNumbers(desk, {{"VbaClosed", 0.10359331792676159}});
+}
+
 TEST(NumberOfTransducers, HeldVolumeOfZeroIsSkipped) {
   BoxDesk desk;
   desk.DesignClosedBox();

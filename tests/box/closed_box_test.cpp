@@ -227,6 +227,16 @@ TEST(ChoiceOfQtc, AnyChangeOfTheFieldMarksTheProject) {
   EXPECT_TRUE(desk.state.ProjectModified);
 }
 
+TEST(ChoiceOfQtc, ClickMarksTheProjectEvenWithoutAChangeOfTheText) {
+  BoxDesk desk;
+  desk.DesignClosedBox();
+  desk.Focus("cmballi");
+  desk.state.FieldBefore = "1.0";
+  desk.state.ProjectModified = false;
+  desk.Pick("cmballi", "0.707");
+  EXPECT_TRUE(desk.state.ProjectModified);
+}
+
 TEST(ClosedBox, ShowsANegativeVolumeWithoutAnyMessage) {
   // Qes = 0.9 makes Qts 0.75204, out of reach for Qtc = 0.5: −188.391 litres, cut to seven characters.
   BoxDesk desk;
@@ -325,6 +335,7 @@ TEST(ClosedBox, FixedVolumeReadsTheApparentVolumeBackFromTheField) {
   EXPECT_EQ(desk.Text("txtvolnetto"), "12.3456");
   EXPECT_EQ(desk.state.Vc, 0.0123456789);
   EXPECT_NEAR(desk.state.VbaClosed, 0.0123456, 1e-15);
+  EXPECT_EQ(desk.Text("txtboxvolume"), "13.9740");  // 1.62848 + 12.3456
 }
 
 }  // namespace

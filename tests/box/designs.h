@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 #include <utility>
@@ -133,12 +134,23 @@ inline void ExpectNumbers(const BoxDesk& desk, const Numbers& numbers) {
 inline constexpr std::size_t kProbe = 68;
 inline constexpr double kProbeHertz = 69 * 0.7324;
 
+/// The box graph shows the curve as it stands: its longest chain runs through the probed point.
+inline void ExpectCurveIsDrawn(const BoxDesk& desk) {
+  const Surface& surface = desk.program.windows.frmgrafcassa.surface;
+  const auto longest = std::max_element(surface.strokes.begin(), surface.strokes.end(),
+                                        [](const Stroke& one, const Stroke& other) { return one.count < other.count; });
+  ASSERT_NE(longest, surface.strokes.end());
+  ASSERT_GT(longest->count, kProbe);
+  EXPECT_NEAR(surface.points[longest->first + kProbe].y, desk.state.BoxScaleTop - desk.state.BoxDb[kProbe], 1e-12);
+}
+
 /// The curve of a closed box: 10 log10(x² / ((x − 1)² + x / Qtc²)) + 40 with x = (f / Fc)².
 inline void ExpectClosedCurve(const BoxDesk& desk, double qtc, double fc) {
   const double x = std::pow(kProbeHertz / fc, 2);
   const double level = 10 * std::log10(x * x / (std::pow(x - 1, 2) + x / (qtc * qtc))) + 40;
   ASSERT_GT(desk.state.BoxDb.size(), kProbe);
   EXPECT_NEAR(desk.state.BoxDb[kProbe], level, 1e-9) << "curve of the closed box";
+  ExpectCurveIsDrawn(desk);
 }
 
 /// The curve of a vented box as the quotient of two polynomials in jf / Fs, written out from
@@ -152,6 +164,7 @@ inline void ExpectVentedCurve(const BoxDesk& desk, double vb, double fs, double 
   const double g = std::pow(x, 4) / (std::pow(x * x - b * x + h * h, 2) + x * std::pow(c * x - a, 2));
   ASSERT_GT(desk.state.BoxDb.size(), kProbe);
   EXPECT_NEAR(desk.state.BoxDb[kProbe], 10 * std::log10(g) + 40, 1e-9) << "curve of the vented box";
+  ExpectCurveIsDrawn(desk);
 }
 
 }  // namespace zefirondo

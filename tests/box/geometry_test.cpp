@@ -171,7 +171,7 @@ TEST(Shape, TooLargeATiltLeavesTheDimensionsAndTheEditingFlag) {
   for (const bool editing : {false, true}) {
     BoxDesk desk;
     MakePrism(desk, "50", kHigh);
-    desk.state.cmbgradi = "30";
+    desk.state.cmbgradi = "30.0";  // comes back as "30", which is a change of its own
     desk.state.DimEditing = editing;
     desk.Pick("cmbforma", "Trapezoidal");
     EXPECT_EQ(desk.TakeOut(), "message stop \"Error\" \"The value of the angle is too high.\" [OK] -> OK\n");
@@ -229,6 +229,13 @@ TEST(Ratio, UnknownTextBecomesTheHighOneOnClick) {
   ExpectTexts(desk, {{"cmbrappo", kHigh}, {"txth", "59.7"}});
   EXPECT_TRUE(desk.sheet.txtld.locked);
   EXPECT_FALSE(desk.state.DimEditing);
+}
+
+TEST(Ratio, AnyOtherTextBecomesTheHighOneOnClick) {
+  BoxDesk desk;
+  MakePrism(desk, "50", kLow);
+  desk.Pick("cmbrappo", "2  1  1");
+  ExpectTexts(desk, {{"cmbrappo", kHigh}, {"txth", "59.7"}});
 }
 
 TEST(Ratio, PassingThroughNonStandardDiscardsHandMadeDimensions) {

@@ -119,6 +119,14 @@ TEST(Leakage, NothingHappensForTheTextFromBefore) {
   EXPECT_EQ(desk.Text("frmgrafcassa.txtF3dB"), "33.8268");
 }
 
+TEST(Leakage, ShowsTheTuningAnew) {
+  BoxDesk desk;
+  desk.DesignVentedBox();
+  desk.state.txtfb = "marker";
+  desk.Pick("cmbql", "20");
+  EXPECT_EQ(desk.Text("txtfb"), "34.1693");
+}
+
 TEST(Leakage, DropsTheSumOfTheGraphAndMarksTheProject) {
   BoxDesk desk;
   desk.DesignVentedBox();
@@ -257,6 +265,28 @@ TEST(Alignment, VolumeOfTheRowIsReadBackFromTheField) {
   EXPECT_NEAR(desk.state.Vb, 0.0123456, 1e-17);
 }
 
+TEST(Alignment, ShowsTheTuningAnew) {
+  BoxDesk desk;
+  desk.DesignVentedBox();
+  desk.Focus("txtvolnetto");
+  desk.state.Fb = 42;
+  desk.state.txtvolnetto = "50";
+  CalcFbVbAlfa(desk.program);
+  EXPECT_EQ(desk.Text("txtfb"), "42");
+}
+
+TEST(Alignment, KeepsTheSidesOfARectangularPortInAnyCase) {
+  BoxDesk desk;
+  desk.DesignVentedBox();
+  desk.Click("imgforma(0)");
+  desk.Enter("cmbDoa", "10");
+  desk.Enter("txtb", "5");
+  desk.state.SquarePortSection = true;
+  desk.TakeAlignment(0.04, 40, 45);
+  ExpectTexts(desk, {{"cmbDoa", "10"}, {"txtb", "5"}});
+  EXPECT_FALSE(desk.state.SquarePortSection);
+}
+
 TEST(Alignment, OnAnotherTabOnlyTheApparentVolumeFollows) {
   BoxDesk desk;
   desk.DesignClosedBox();
@@ -327,6 +357,7 @@ TEST(UpdateOfAVentedBox, DesignAloneKeepsTheTuning) {
   BoxDesk desk;
   desk.DesignVentedBox();
   desk.state.Vb = 0.07;
+  desk.state.txtfb = desk.state.txtfreriso = "marker";
   EnterAfterChange(desk, true, false);
   ExpectNumbers(desk, {{"Fb", 34.169307178554135}, {"VbaVented", 0.07}});
   ExpectTexts(desk, {{"txtvolnetto", "70"}, {"txtvolappa", "70"}, {"txtfb", "34.1693"}, {"txtfreriso", "34.5821"}});
@@ -339,7 +370,9 @@ TEST(UpdateOfAVentedBox, WithoutAPortTheAirMovesNothing) {
   desk.state.cmbDoa.clear();
   desk.state.Vb = 0.07;
   desk.state.txtfb = desk.state.txtfreriso = "marker";
+  CloseWindow(desk.program, "frmgrafcassa");
   EnterAfterChange(desk, true, true);
+  EXPECT_TRUE(desk.program.windows.frmgrafcassa.window.open);
   EXPECT_EQ(desk.state.Fb, 34.169307178554135);
   ExpectTexts(desk, {{"txtvolnetto", "70"}, {"txtvolappa", "70"}, {"txtfb", "marker"}, {"txtfreriso", "marker"}});
 }

@@ -141,7 +141,7 @@ TEST(Reading, TakesTheNumbers) {
   EXPECT_EQ(s.WooferWiring, "series");
   EXPECT_EQ(s.RsAmplifier, 0.25);
   EXPECT_EQ(s.BoxSection, "VentedBox");
-  EXPECT_EQ(s.Fs, 0);    // the field rules
+  EXPECT_EQ(s.Fs, 0);  // the field rules
   EXPECT_EQ(s.Zmax, 0);
   EXPECT_FALSE(s.ImpedanceMode);
 }
@@ -193,9 +193,9 @@ TEST(Reading, PutsTheModelIntoTheCaptionsEvenOfAFileThatEndsThere) {
 TEST(Reading, GoesByTheLengthOfTheKeyAndNotByTheKey) {
   Desk desk;
   Lines lines = LongestFile();
-  lines[1] = "Xxxxx:Brezza";       // as long as "Brand="
-  lines[7] = "Power=100";          // longer than "Pe=": its value begins at the fourth character
-  lines[46] = "Temperaturae25";    // as the save writes it
+  lines[1] = "Xxxxx:Brezza";     // as long as "Brand="
+  lines[7] = "Power=100";        // longer than "Pe=": its value begins at the fourth character
+  lines[46] = "Temperaturae25";  // as the save writes it
   OpenBytes(desk, Unfinished(lines));
   ExpectTexts(desk, {{"txtmarca", "Brezza"}, {"txtpotenza", "er=100"}, {"txttemperatura", "25"}});
 }

@@ -182,8 +182,9 @@ inline const Lines kVolumeLines{"DriversNum=2",   "NetVolume=24.8", "OccupiedVol
                                 "DriverVol=4.62", "Fb=36.7",        "Freq.riso=35.8"};
 
 /// Vd is 5 × 0.0346 × 2 = 0.346.
-inline const Lines kTailLines{"ApparentVol=27.3", "Kint=1.27(10%)",        "Kinternal=1.27272727", "roo=1.18415",
-                              "EBP=77.7777777777778", "Vd=0.346", "SPLmax=0",       "USPL=0"};
+inline const Lines kTailLines{
+    "ApparentVol=27.3", "Kint=1.27(10%)", "Kinternal=1.27272727", "roo=1.18415", "EBP=77.7777777777778", "Vd=0.346",
+    "SPLmax=0",         "USPL=0"};
 
 inline const Lines kF3Line{"Fb-3dB=28.25"};
 inline const Lines kPrismLines{"WidthPrism=30.125", "HeightPrism=37.5", "DepthPrism=0.75"};

@@ -80,11 +80,16 @@ TEST(LineReader, TellsWhyAFileCannotBeOpened) {
     std::filesystem::path path;
     int number;
   };
-  const Row rows[]{{folder.path() / "missing", 53}, {folder.path() / "missing" / "file", 76},
-                   {plain / "file", 76},            {folder.path() / "folder", 75},
-                   {folder.path() / "pipe", 75},    {folder.path() / "circle", 75},
-                   {"/dev/null", 75},               {folder.path() / std::string(300, 'n'), 75},
-                   {"zefirondo-test-missing", 53},  {"", 53}};
+  const Row rows[]{{folder.path() / "missing", 53},
+                   {folder.path() / "missing" / "file", 76},
+                   {plain / "file", 76},
+                   {folder.path() / "folder", 75},
+                   {folder.path() / "pipe", 75},
+                   {folder.path() / "circle", 75},
+                   {"/dev/null", 75},
+                   {folder.path() / std::string(300, 'n'), 75},
+                   {"zefirondo-test-missing", 53},
+                   {"", 53}};
   for (const Row& row : rows) EXPECT_EQ(FailureOf([&] { LineReader reader(row.path); }), row.number) << row.path;
 }
 

@@ -129,8 +129,11 @@ TEST_F(BoxWindow, ShowsF3ByTheSelectedTabEachTimeItBecomesActive) {
     double f3v, f3c;
     const char* text;
   };
-  for (const Row& row : {Row{"ref", 33.25, 44.5, "33.25"}, {"ref", 0, 44.5, "****"}, {"chi", 33.25, 44.5, "44.5"},
-                         {"chi", 33.25, 0, "****"}, {"par", 33.25, 44.5, "****"}}) {
+  for (const Row& row : {Row{"ref", 33.25, 44.5, "33.25"},
+                         {"ref", 0, 44.5, "****"},
+                         {"chi", 33.25, 44.5, "44.5"},
+                         {"chi", 33.25, 0, "****"},
+                         {"par", 33.25, 44.5, "****"}}) {
     desk.sheet.selected_tab = row.tab;
     state().F3v = row.f3v;
     state().F3c = row.f3c;
@@ -182,9 +185,8 @@ const SlotRow kSlots[]{
     {"frmgrafcassa.cmdset1", "frmgrafcassa.chkonoff1", "frmgrafcassa.mnusalvatracciatorosso",
      &ProjectState::Set1BoxFreq, &ProjectState::Set1BoxDb, &ProjectState::Set1BoxStored, &ProjectState::Set1BoxShown,
      kRed},
-    {"frmgrafcassa.cmdset2", "frmgrafcassa.chkonoff2", "frmgrafcassa.mnusalvatracciatoblu",
-     &ProjectState::Set2BoxFreq, &ProjectState::Set2BoxDb, &ProjectState::Set2BoxStored, &ProjectState::Set2BoxShown,
-     kBlue},
+    {"frmgrafcassa.cmdset2", "frmgrafcassa.chkonoff2", "frmgrafcassa.mnusalvatracciatoblu", &ProjectState::Set2BoxFreq,
+     &ProjectState::Set2BoxDb, &ProjectState::Set2BoxStored, &ProjectState::Set2BoxShown, kBlue},
 };
 
 class BoxTrace : public BoxWindow, public testing::WithParamInterface<std::size_t> {
@@ -315,13 +317,12 @@ TEST_F(BoxWindow, IsPlainAgainAfterDelete) {
   EXPECT_EQ(Curves(), std::vector<int>{kBlack});
   EXPECT_EQ(GridLines(), 31U);
   ExpectNoSum();
-  for (const Curve* const curve : {&state().SumPhaseDeg, &state().Set1BoxFreq, &state().Set1BoxDb,
-                                   &form().OverlayFreq, &form().OverlayDb, &state().FilterFreq, &state().FilterDb}) {
+  for (const Curve* const curve : {&state().SumPhaseDeg, &state().Set1BoxFreq, &state().Set1BoxDb, &form().OverlayFreq,
+                                   &form().OverlayDb, &state().FilterFreq, &state().FilterDb}) {
     EXPECT_TRUE(curve->empty());
   }
   EXPECT_EQ(state().Set2BoxDb, second);  // kept, and without effect
-  for (const bool flag :
-       {state().Set1BoxStored, state().Set1BoxShown, state().Set2BoxStored, state().Set2BoxShown}) {
+  for (const bool flag : {state().Set1BoxStored, state().Set1BoxShown, state().Set2BoxStored, state().Set2BoxShown}) {
     EXPECT_FALSE(flag);
   }
   for (const char* const tick : {"frmgrafcassa.chkonoff1", "frmgrafcassa.chkonoff2"}) {
@@ -361,8 +362,12 @@ struct KeyRow {
 
 TEST_F(BoxWindow, FiltersTheKeysOfTheCalibration) {
   const std::string warning = "message stop \"Error\" \"Warning: Inputs must be a number\" [OK] -> OK\n";
-  for (const KeyRow& row : {KeyRow{"-3.5", "-3.5", 0}, {"3,5", "3.5", 0}, {"1.2.3", "1.23", 1}, {"12a", "12", 1},
-                            {"12\b4", "14", 0}, {"05", "05", 0}}) {
+  for (const KeyRow& row : {KeyRow{"-3.5", "-3.5", 0},
+                            {"3,5", "3.5", 0},
+                            {"1.2.3", "1.23", 1},
+                            {"12a", "12", 1},
+                            {"12\b4", "14", 0},
+                            {"05", "05", 0}}) {
     form().txtdbcal.enabled = true;
     desk.Set("frmgrafcassa.txtdbcal", "");
     desk.TakeOut();

@@ -46,9 +46,9 @@ struct WiringRow {
 };
 
 TEST(WiringGain, FollowsTheNumberOfTransducersButInSeries) {
-  constexpr WiringRow kRows[]{{"parallel", 1, 0},  {"parallel", 2, 6.0206}, {"parallel", 3, 9.5424},
+  constexpr WiringRow kRows[]{{"parallel", 1, 0},       {"parallel", 2, 6.0206}, {"parallel", 3, 9.5424},
                               {"parallel", 4, 12.0412}, {"biamp", 2, 6.0206},    {"biamp", 4, 12.0412},
-                              {"series", 1, 0},    {"series", 2, 0},        {"series", 4, 0},
+                              {"series", 1, 0},         {"series", 2, 0},        {"series", 4, 0},
                               {"Series", 2, 6.0206},  // the text is compared as it stands
                               {"", 2, 6.0206}};
   for (const WiringRow& row : kRows) {

@@ -16,11 +16,13 @@ struct Finished {
   std::string error;
 };
 
-/// Runs `zefirondo-run` with these words (as a shell takes them) in a folder, with a text on its standard input.
-inline Finished RunProcess(const TemporaryFolder& folder, const std::string& words, const std::string& input = {}) {
+/// Runs `zefirondo-run` with these words (as a shell takes them) in a folder, with a text on its standard input and
+/// with changes to its environment ("NAME=VALUE ...").
+inline Finished RunProcess(const TemporaryFolder& folder, const std::string& words, const std::string& input = {},
+                           const std::string& environment = {}) {
   static_cast<void>(folder.Write(".in", input));
-  const std::string command = "cd '" + folder.path().string() + "' && '" ZEFIRONDO_RUN "' " + words +
-                              " <.in >.out 2>.error";
+  const std::string command = "cd '" + folder.path().string() + "' && " + environment + " '" ZEFIRONDO_RUN "' " +
+                              words + " <.in >.out 2>.error";
   const int raw = std::system(command.c_str());
   Finished finished;
   if (WIFEXITED(raw)) finished.status = WEXITSTATUS(raw);

@@ -47,15 +47,30 @@ TEST(RunnerProcess, IsDoneWhenTheProgramEndedByAFailure) {
             "x 768 Pixel\" [OK] -> OK\nended error\nwindows mdithsm\nended\n");
 }
 
-
 TEST(RunnerProcess, TellsItsUsageForBadOptions) {
   const TemporaryFolder folder;
   static_cast<void>(folder.Write("a.zef", "echo ran\n"));
-  for (const char* const words :
-       {"--language", "--language de", "--language EN", "--unknown x", "--today", "--today 1/1/2026",
-        "--today 31-12-2026", "--today 31/02/2026", "--today 29/02/2025", "--today 00/01/2026", "--today 01/13/2026",
-        "--today 01/01/-026", "--folder", "--folder ''", "--screen-width", "--screen-width -1", "--screen-width wide",
-        "--screen-width 12.5", "--screen-width inf", "a.zef a.zef", "a.zef --language"}) {
+  for (const char* const words : {"--language",
+                                  "--language de",
+                                  "--language EN",
+                                  "--unknown x",
+                                  "--today",
+                                  "--today 1/1/2026",
+                                  "--today 31-12-2026",
+                                  "--today 31/02/2026",
+                                  "--today 29/02/2025",
+                                  "--today 00/01/2026",
+                                  "--today 01/13/2026",
+                                  "--today 01/01/-026",
+                                  "--folder",
+                                  "--folder ''",
+                                  "--screen-width",
+                                  "--screen-width -1",
+                                  "--screen-width wide",
+                                  "--screen-width 12.5",
+                                  "--screen-width inf",
+                                  "a.zef a.zef",
+                                  "a.zef --language"}) {
     const Finished run = RunProcess(folder, words, "echo ran\n");
     EXPECT_EQ(run.status, 2) << words;
     EXPECT_EQ(run.out, "") << words;
@@ -80,8 +95,7 @@ TEST(RunnerProcess, TakesEveryOption) {
 
 TEST(RunnerProcess, WorksInTheCurrentFolderByItself) {
   const TemporaryFolder folder;
-  const Finished run =
-      RunProcess(folder, "--language en", "start\nfile cancel\nchoose mdithsm.mnuapriprogetto\n");
+  const Finished run = RunProcess(folder, "--language en", "start\nfile cancel\nchoose mdithsm.mnuapriprogetto\n");
   EXPECT_EQ(run.out, "dialog open \"Zefirondo Project (*.pro)|*.pro|\" default=\".pro\" folder=\"" +
                          (folder.path() / "Project").string() + "\" -> cancel\n");
 }
@@ -129,8 +143,11 @@ TEST(RunnerProcess, ReportsAnAnswerThatNothingTook) {
     const char* line;
     const char* told;
   };
-  for (const Row& row : {Row{"answer yes", "answer Yes"}, {"file cancel", "file cancel"}, {"file a.pro", "file a.pro"},
-                         {"input 5", "input 5"}, {"overwrite no", "overwrite no"}}) {
+  for (const Row& row : {Row{"answer yes", "answer Yes"},
+                         {"file cancel", "file cancel"},
+                         {"file a.pro", "file a.pro"},
+                         {"input 5", "input 5"},
+                         {"overwrite no", "overwrite no"}}) {
     const Finished run = RunProcess(folder, "", std::string("start\n") + row.line + "\necho end\n");
     EXPECT_EQ(run.status, 3) << row.line;
     EXPECT_EQ(run.out, "echo end\n") << row.line;
@@ -138,18 +155,16 @@ TEST(RunnerProcess, ReportsAnAnswerThatNothingTook) {
   }
 }
 
-TEST(RunnerProcess, DoesNotDependOnTheLanguageOfTheSystem) {
+TEST(RunnerProcess, SpeaksTheLanguageOfTheSystemUnlessOneIsGiven) {
   const TemporaryFolder folder;
-  const std::string script = "start\nchoose mdithsm.mnuinsmanuale\nget frmthsm.TabStrip1 mnusalva\n";
-  ::setenv("LC_ALL", "it_IT.UTF-8", 1);
-  const Finished english = RunProcess(folder, "--language en", script);
-  const Finished system = RunProcess(folder, "", "start\nget mdithsm.mnuuscita\n");
-  ::setenv("LC_ALL", "C", 1);
-  const Finished again = RunProcess(folder, "--language en", script);
-  EXPECT_EQ(english.out, again.out);
-  // Without the option the system's language rules.
-  EXPECT_EQ(system.out, RunProcess(folder, "--language it", "start\nget mdithsm.mnuuscita\n").out);
-  EXPECT_NE(system.out, RunProcess(folder, "--language en", "start\nget mdithsm.mnuuscita\n").out);
+  const std::string script = "start\nget mdithsm.mnuinsmanuale\n";
+  const std::string english = "mdithsm.mnuinsmanuale = \"New Project with Entered &Parameters\"\n";
+  EXPECT_EQ(RunProcess(folder, "", script, "LC_ALL=C").out, english);
+  EXPECT_EQ(RunProcess(folder, "", script, "LC_ALL=de_DE.UTF-8").out, english);
+  EXPECT_NE(RunProcess(folder, "", script, "LC_ALL=it_IT.UTF-8").out, english);
+  EXPECT_EQ(RunProcess(folder, "--language en", script, "LC_ALL=it_IT.UTF-8").out, english);
+  EXPECT_EQ(RunProcess(folder, "--language it", script, "LC_ALL=C").out,
+            RunProcess(folder, "", script, "LC_ALL=it_IT.UTF-8").out);
 }
 
 // ---- the examples ----
