@@ -24,5 +24,7 @@ install_missing() {
 BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev)
 # What the tests and benchmarks need besides.
 TEST_PACKAGES=(ccache libgtest-dev libbenchmark-dev)
+# What fuzzing needs besides.
+FUZZ_PACKAGES=(clang-14 libclang-rt-14-dev)
 # What the format and lint checks need besides.
 LINT_PACKAGES=(clang-format-14 clang-tidy-14)

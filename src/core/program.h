@@ -11,16 +11,21 @@
 #include "core/messages.h"
 #include "core/platform.h"
 #include "core/project_state.h"
+#include "core/windows/frmAbout.h"
 #include "core/windows/frmFase.h"
+#include "core/windows/frmFaseSh.h"
 #include "core/windows/frmairspeed.h"
 #include "core/windows/frmalfa.h"
 #include "core/windows/frmbox.h"
+#include "core/windows/frmcalcolatrice.h"
 #include "core/windows/frmdimensioni.h"
 #include "core/windows/frmescursione.h"
+#include "core/windows/frmfasecompl.h"
 #include "core/windows/frmfiltri.h"
 #include "core/windows/frmgrafcassa.h"
 #include "core/windows/frmgrafico.h"
 #include "core/windows/frmopzioni.h"
+#include "core/windows/frmsommadelay.h"
 #include "core/windows/frmspl.h"
 #include "core/windows/frmsplMax.h"
 #include "core/windows/frmthsm.h"
@@ -50,6 +55,11 @@ struct Windows {
   AirSpeedGraph frmairspeed;
   PhaseGraph frmFase;
   FilterDesigner frmfiltri;
+  PhaseOffsetTool frmFaseSh;
+  PhaseOffsetEntry frmfasecompl;
+  DelayEntry frmsommadelay;
+  Calculator frmcalcolatrice;
+  About frmAbout;
 
   explicit Windows(ProjectState& state);
 

@@ -1,6 +1,7 @@
 #include "filters/events.h"
 
 #include "filters/filter_designer.h"
+#include "filters/phase_offset.h"
 #include "filters/summation.h"
 
 namespace zefirondo {
@@ -8,6 +9,7 @@ namespace zefirondo {
 void ConnectFilters(Program& program) {
   ConnectFilterDesigner(program);
   ConnectSummation(program);
+  ConnectPhaseOffset(program);
 }
 
 }  // namespace zefirondo

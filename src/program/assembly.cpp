@@ -8,8 +8,10 @@
 #include "core/shell.h"
 #include "files/events.h"
 #include "filters/events.h"
+#include "print/events.h"
 #include "response/events.h"
 #include "transducer/events.h"
+#include "utilities/events.h"
 
 namespace zefirondo {
 
@@ -24,6 +26,8 @@ void ConnectProgram(Program& program) {
   ConnectBox(program);
   ConnectTransducer(program);
   ConnectFilters(program);
+  ConnectPrint(program);
+  ConnectUtilities(program);
 }
 
 }  // namespace zefirondo

@@ -112,10 +112,24 @@ void GrigliaFase(Surface& surface) {
   DrawFrequencies(surface, kBoxGridLimit);
 }
 
+void DrawPhaseGrid(Surface& surface) {
+  for (int y = kPhaseHeight - 45; y >= 0; y -= 45) {
+    surface.Line(0, y, surface.scale.width + kLowGridLeft, y, colour::kBlack);
+  }
+  const auto vertical = [&](int f) {
+    const double x = 20 * Log10(f) - 10;
+    surface.Line(x, 0, x, kPhaseHeight, colour::kBlack);
+  };
+  for (int decade = 10; decade < 10000; decade *= 10) {
+    for (int f = decade; f <= decade * 10; f += decade) vertical(f);
+  }
+  vertical(10000);  // and none at 20000, as wanted
+}
+
 void ShowReadout(const Surface& surface, Control& readout, double x, double y, double value,
                  const ReadoutStyle& style) {
   const Scale& scale = surface.scale;
-  const std::string hertz = FormatTwoDecimals(std::pow(10.0, x / 20));
+  const std::string hertz = FormatTwoDecimals(std::pow(10.0, (x + style.frequency_shift) / 20));
   const std::string shown = FormatTwoDecimals(value);
   // The width leaves out the words in between, as wanted.
   const std::string measured = style.width_of != nullptr ? FormatTwoDecimals(*style.width_of) : shown;

@@ -39,10 +39,14 @@ void GrigliaAria(int top, Surface& surface, double velocity);
 /// The grid of the phase graph; its labels are fixed.
 void GrigliaFase(Surface& surface);
 
+/// The grid of the phase offset tool, whose places are 20·log10(f) − 10.
+void DrawPhaseGrid(Surface& surface);
+
 /// The units of a read-out, and where it stands under the mouse.
 struct ReadoutStyle {
   const char* unit = "";
   double below_twips = 60;
+  double frequency_shift = 0;        // what the places of the plot are less than 20·log10(f)
   const double* width_of = nullptr;  // the value whose text gives the width, when it is not the one shown
 };
 

@@ -58,6 +58,7 @@ std::string QueuedPlatform::LeftOver() const {
   if (!answers.empty()) return "answer " + std::string(AnswerName(answers.front()));
   if (!files.empty()) return "file " + (files.front() ? files.front()->string() : "cancel");
   if (!inputs.empty()) return "input " + inputs.front();
+  if (!printers.empty()) return "printer";
   if (!overwrites.empty()) return std::string("overwrite ") + (overwrites.front() ? "yes" : "no");
   return {};
 }
@@ -113,10 +114,21 @@ std::optional<std::filesystem::path> QueuedPlatform::ChooseFile(const FileDialog
   return path;
 }
 
-std::optional<PrintChoice> QueuedPlatform::ChoosePrinter() { throw ScriptError("no printer is queued"); }
+std::optional<PrintChoice> QueuedPlatform::ChoosePrinter() {
+  if (printers.empty()) throw ScriptError("no printer is queued for the printer dialog");
+  const Printer printer = TakeFront(printers);
+  if (printer.cancelled) {
+    Print("printer -> cancel");
+    return std::nullopt;
+  }
+  printer_fails_ = printer.fails;
+  Print("printer -> " + std::to_string(printer.choice.copies) + (printer.choice.landscape ? " landscape" : " portrait"));
+  return printer.choice;
+}
 
-void QueuedPlatform::Print(const std::vector<Page>&, const PrintChoice&) {
-  throw RunTimeError(ErrorNumber::DeviceError);
+void QueuedPlatform::Print(const std::vector<Page>& printed, const PrintChoice&) {
+  if (printer_fails_) throw RunTimeError(ErrorNumber::DeviceError);
+  pages.insert(pages.end(), printed.begin(), printed.end());
 }
 
 void QueuedPlatform::WriteStore(const std::string& key, const std::string& value) { store.emplace_back(key, value); }

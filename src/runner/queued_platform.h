@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/platform.h"
+#include "print/page.h"
 
 namespace zefirondo {
 
@@ -24,9 +25,16 @@ class QueuedPlatform : public Platform {
   std::deque<std::string> inputs;
   std::deque<bool> overwrites;
   std::string clipboard;
+  struct Printer {
+    bool cancelled = false;
+    bool fails = false;
+    PrintChoice choice;
+  };
+  std::deque<Printer> printers;
 
   // What a script asks for.
   std::vector<std::pair<std::string, std::string>> store;
+  std::vector<Page> pages;
 
   /// What is still queued, in words; empty when all was used.
   [[nodiscard]] std::string LeftOver() const;
@@ -52,6 +60,7 @@ class QueuedPlatform : public Platform {
   [[nodiscard]] std::optional<std::filesystem::path> TakeFile(const FileDialog& dialog);
 
   std::string& out_;
+  bool printer_fails_ = false;
   Date today_;
   double screen_width_;
 };

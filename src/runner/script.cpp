@@ -71,6 +71,7 @@ class Script {
   void QueueFile(Words words);
   void QueueInput(Words words);
   void QueueOverwrite(Words words);
+  void QueuePrinter(Words words);
 
   // Asking.
   void AskGet(Words words);
@@ -84,6 +85,7 @@ class Script {
   void AskCurve(Words words);
   void AskSurface(Words words);
   void AskStore(Words words);
+  void AskPages(Words words);
   void AskEcho(Words words);
 
   Control& Field(const std::string& name);
@@ -125,6 +127,7 @@ const std::vector<Script::Command>& Script::Commands() {
       {"file", &Script::QueueFile, 1, 1, false},
       {"input", &Script::QueueInput, 1, 1, false},
       {"overwrite", &Script::QueueOverwrite, 1, 1, false},
+      {"printer", &Script::QueuePrinter, 1, 2, false},
       {"get", &Script::AskGet, 1, kMany, true},
       {"look", &Script::AskLook, 1, kMany, true},
       {"list", &Script::AskList, 1, 1, true},
@@ -136,6 +139,7 @@ const std::vector<Script::Command>& Script::Commands() {
       {"curve", &Script::AskCurve, 1, 3, true},
       {"surface", &Script::AskSurface, 1, 1, true},
       {"store", &Script::AskStore, 0, 0, true},
+      {"pages", &Script::AskPages, 0, 0, true},
       {"echo", &Script::AskEcho, 0, kMany, true},
   };
   return commands;
@@ -350,6 +354,23 @@ void Script::QueueOverwrite(Words words) {
   platform_.overwrites.push_back(words[0] == "yes");
 }
 
+void Script::QueuePrinter(Words words) {
+  QueuedPlatform::Printer printer;
+  if (words[0] == "cancel" || words[0] == "fail") {
+    if (words.size() > 1) throw ScriptError("printer " + words[0] + " takes no more words");
+    printer.cancelled = words[0] == "cancel";
+    printer.fails = words[0] == "fail";
+  } else {
+    const double copies = ReadScriptNumber(words[0]);
+    if (!(copies >= 1 && copies <= 999 && copies == std::floor(copies))) throw ScriptError("no number of copies");
+    printer.choice.copies = static_cast<int>(copies);
+    const std::string orientation = words.size() > 1 ? words[1] : "portrait";
+    if (orientation != "portrait" && orientation != "landscape") throw ScriptError("no orientation " + orientation);
+    printer.choice.landscape = orientation == "landscape";
+  }
+  platform_.printers.push_back(printer);
+}
+
 // ---- asking ----
 
 std::string Flag(bool flag) { return flag ? "-1" : "0"; }
@@ -509,6 +530,32 @@ void Script::AskSurface(Words words) {
 
 void Script::AskStore(Words) {
   for (const auto& [key, value] : platform_.store) Print(key + " = " + Quoted(value));
+}
+
+/// One line of what went to the printer.
+struct PageLineText {
+  std::string operator()(const PageText& item) const {
+    return "text " + NumberText(item.x) + " " + NumberText(item.y) + " " + Quoted(item.text) +
+           (item.tab != 0 ? " tab=" + std::to_string(item.tab) : "");
+  }
+  std::string operator()(const PageLine& item) const { return "line " + Corners(item.x1, item.y1, item.x2, item.y2); }
+  std::string operator()(const PageBox& item) const { return "box " + Corners(item.x1, item.y1, item.x2, item.y2); }
+  std::string operator()(const PagePicture& item) const {
+    return "picture " + Corners(item.x, item.y, item.width, item.height) + " " + item.source;
+  }
+
+  static std::string Corners(double a, double b, double c, double d) {
+    return NumberText(a) + " " + NumberText(b) + " " + NumberText(c) + " " + NumberText(d);
+  }
+};
+
+void Script::AskPages(Words) {
+  int number = 0;
+  for (const Page& page : platform_.pages) {
+    Print("page " + std::to_string(++number) + (page.landscape ? " landscape" : " portrait"));
+    for (const PageItem& item : page.items) Print(std::visit(PageLineText{}, item));
+    if (page.last) Print("end");
+  }
 }
 
 void Script::AskEcho(Words words) { Print(words.empty() ? "echo" : "echo " + Joined(words)); }

@@ -35,9 +35,9 @@ void LineSample::paintEvent(QPaintEvent* /*event*/) {
 }
 
 PlotPanel* AddGraph(Binder& binder, QWidget* content, QVBoxLayout& column, const GraphControls& graph) {
-  auto* const top = new QGridLayout;
-  top->addWidget(MakeCentred(binder, graph.title, content, true), 0, 0);
-  if (graph.unit != nullptr) top->addWidget(MakeWidget(binder, *graph.unit, content), 0, 0, Qt::AlignLeft);
+  auto* const top = new QHBoxLayout;
+  if (graph.unit != nullptr) top->addWidget(MakeWidget(binder, *graph.unit, content));
+  top->addWidget(MakeCentred(binder, graph.title, content, true), 1);
   column.addLayout(top);
 
   auto* const panel = new PlotPanel(*graph.plot.surface, FrequencyMarks(graph.highest), content);

@@ -19,7 +19,7 @@ struct BoxCorners {
 
 /// `narrowing` is how much the rear is narrower than the front, as a part of the front on each side.
 BoxCorners Corners(const QRectF& area, double narrowing) {
-  const QRectF inner = area.adjusted(kLetterBox, kLetterBox / 2, -kLetterBox, -kLetterBox * 0.8);
+  const QRectF inner = area.adjusted(kLetterBox, kLetterBox * 0.8, -kLetterBox, -kLetterBox * 0.8);
   const double width = inner.width() * 0.62;
   const double height = inner.height() * 0.74;
   const QPointF shift(inner.width() * 0.38, -inner.height() * 0.26);

@@ -394,11 +394,15 @@ TEST(LeavingTest, OfAReadOnlyResultLetsTheFocusGo) {
   }
 }
 
-TEST(LeavingTest, OfAReadOnlyVasHoldsTheFocusAllTheSame) {
-  OpenField open({"txtvas", "par"});
-  open.desk.Focus("txtvas");
-  open.desk["txtvas"].locked = true;
-  EXPECT_EQ(open.desk.Leave().held, &open.desk["txtvas"]);
+TEST(LeavingTest, OfAReadOnlyInputHoldsTheFocusAllTheSame) {
+  for (const Place place :
+       {Place{"txtvas", "par"}, Place{"txtfs", "par"}, Place{"txtrvc", "par"}, Place{"txtqmesin", "par"},
+        Place{"txtbl", "par"}, Place{"txtsd", "par"}, Place{"txtforo", "dim"}, Place{"txtpotenza", "gen"}}) {
+    OpenField open(place);
+    open.desk.Focus(place.field);
+    open.desk[place.field].locked = true;
+    EXPECT_EQ(open.desk.Leave().held, &open.desk[place.field]) << place.field;
+  }
 }
 
 TEST(LeavingTest, OfTheAreaIsContentWithADiameter) {

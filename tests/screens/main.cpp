@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "fields_test.h"
+#include "layout_test.h"
 #include "platform_test.h"
 #include "road_test.h"
 #include "windows_test.h"
@@ -23,6 +24,7 @@ int main(int argc, char** argv) {
   int failures = Run<RoadTest>(argc, argv);
   failures += Run<FieldsTest>(argc, argv);
   failures += Run<WindowsTest>(argc, argv);
+  failures += Run<LayoutTest>(argc, argv);
   failures += Run<PlatformTest>(argc, argv);
   return failures == 0 ? 0 : 1;
 }
