@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <vector>
 
 #include "screens/looks.h"
@@ -40,17 +41,15 @@ struct Mapping {
 class ThinnedCurve {
  public:
   void Add(const QPointF& point) {
-    if (!std::isfinite(point.x()) || !std::isfinite(point.y())) return;
-    const double column = std::floor(point.x());
-    if (has_column_ && column == column_) {
+    if (point.x() >= column_ && point.x() < column_ + 1) {
       if (point.y() < low_.y()) low_ = point;
       if (point.y() > high_.y()) high_ = point;
       last_ = point;
       return;
     }
+    if (!std::isfinite(point.x()) || !std::isfinite(point.y())) return;
     FlushColumn();
-    column_ = column;
-    has_column_ = true;
+    column_ = std::floor(point.x());
     first_ = low_ = high_ = last_ = point;
   }
 
@@ -62,8 +61,7 @@ class ThinnedCurve {
 
  private:
   void FlushColumn() {
-    if (!has_column_) return;
-    has_column_ = false;
+    if (std::isnan(column_)) return;
     Keep(first_);
     if (low_ != first_ && low_ != last_ && high_ != first_ && high_ != last_) {
       const bool falls = low_.x() < high_.x();
@@ -108,8 +106,9 @@ class ThinnedCurve {
 
   std::vector<QPointF> kept_;
   QPointF first_, low_, high_, last_, pending_;
-  double column_ = 0.0, wedge_low_ = 0.0, wedge_high_ = 0.0;
-  bool has_column_ = false, has_pending_ = false;
+  double column_ = std::numeric_limits<double>::quiet_NaN();  // the left edge of the column that is being looked at
+  double wedge_low_ = 0.0, wedge_high_ = 0.0;
+  bool has_pending_ = false;
 };
 
 bool IsGridLine(const Stroke& stroke) { return stroke.count == 2 && stroke.colour == colour::kBlack; }

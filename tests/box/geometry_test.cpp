@@ -248,6 +248,13 @@ TEST(Ratio, PassingThroughNonStandardDiscardsHandMadeDimensions) {
   ExpectTexts(desk, {{"cmbrappo", kHigh}, {"txtl", "36.8"}, {"txth", "59.7"}, {"txtp", "22.8"}});
 }
 
+TEST(Ratio, TypedTextBecomesTheHighOneOnLeaving) {
+  BoxDesk desk;
+  MakePrism(desk, "50", kLow);
+  desk.Enter("cmbrappo", "2  1  1");
+  ExpectTexts(desk, {{"cmbrappo", kHigh}, {"txth", "59.7"}});
+}
+
 TEST(Ratio, LeavingWithARatioKeepsTheDimensions) {
   BoxDesk desk;
   MakePrism(desk, "50", kLow);

@@ -174,6 +174,18 @@ TEST(PortSection, TurnsRedBelowTheSmallestOne) {
   EXPECT_EQ(desk.sheet.txtareasez.fore, colour::kText);
 }
 
+TEST(PortLength, TuningFromThePortShowsTheApparentLength) {
+  BoxDesk desk;
+  desk.DesignVentedBox();
+  desk.state.txtlungmis = "12";
+  desk.state.BoxDb[kProbe] = 12;
+  desk.state.txtminsv = "marker";
+  FbDaCondotto(desk.program);
+  ExpectTexts(desk, {{"txtlungappa", "20.0380"}, {"txtfreriso", "33.7973"}, {"txtminsv", "marker"}});
+  ExpectNumbers(desk, {{"Fb", 32.636041024246076}, {"F3v", 33.826846866642143}});
+  EXPECT_EQ(desk.state.BoxDb[kProbe], 12);  // no sweep
+}
+
 TEST(TypedLength, KeepsTheVolumeAndMovesTheTuning) {
   BoxDesk desk;
   desk.DesignVentedBox();
@@ -333,6 +345,18 @@ TEST(SideB, EmptyOneSizesNothing) {
   desk.state.txtlungmis = "marker";
   DimensionaCondotto(desk.program);
   EXPECT_EQ(desk.Text("txtlungmis"), "marker");
+}
+
+TEST(SideB, EmptyOneStopsSideAToo) {
+  BoxDesk desk;
+  desk.DesignVentedBox();
+  desk.Click("imgforma(0)");
+  const double area = desk.state.SectArea1Vent;
+  desk.state.txtb.clear();
+  desk.state.ProjectModified = false;
+  desk.Pick("cmbDoa", "10.4");
+  EXPECT_EQ(desk.state.SectArea1Vent, area);
+  EXPECT_FALSE(desk.state.ProjectModified);
 }
 
 TEST(RectangularPort, NewVolumeMakesItASquareOfTheSameArea) {

@@ -67,6 +67,15 @@ TEST(VentedBox, DesignKeepsTheSidesOfARectangularPort) {
   ExpectTexts(desk, {{"cmbDoa", "8.39225"}, {"txtb", "8.39225"}});  // √0.00704299404 · 100
 }
 
+TEST(VentedBox, DesignShowsTheMinusThreeDecibelPointAgain) {
+  BoxDesk desk;
+  desk.DesignVentedBox();
+  desk.Pick("cmbql", "10");
+  EXPECT_EQ(desk.Text("frmgrafcassa.txtF3dB"), "****");
+  CalcolaReflex(desk.program);
+  EXPECT_EQ(desk.Text("frmgrafcassa.txtF3dB"), "33.8268");
+}
+
 TEST(DefaultPortArea, ComesFromTheAirSpeed) {
   BoxDesk desk;
   desk.DesignVentedBox();
