@@ -16,8 +16,9 @@ namespace zefirondo::screens {
 namespace {
 
 constexpr double kCurveWeight = 1.6;   // against a hairline of 1
-constexpr double kTolerance = 0.08;    // pixels that a thinned curve may stray from the full one
+constexpr double kTolerance = 0.2;    // pixels that a thinned curve may stray from the full one
 constexpr double kFarOutside = 4.0;    // plot heights beyond which a point need not be exact
+constexpr std::size_t kPiece = 12;      // segments that are stroked at once
 const QColor kGridColour(150, 150, 150);
 
 struct Mapping {
@@ -42,6 +43,7 @@ class ThinnedCurve {
  public:
   void Add(const QPointF& point) {
     if (point.x() >= column_ && point.x() < column_ + 1) {
+      if (std::isnan(point.y())) return;
       if (point.y() < low_.y()) low_ = point;
       if (point.y() > high_.y()) high_ = point;
       last_ = point;
@@ -129,14 +131,22 @@ void PaintGrid(QPainter& painter, const Surface& surface, const QRectF& area, do
   }
 }
 
+/// The rasteriser's time grows with the square of what lies on one line of pixels, as most of a response does.
+/// The caps make the pieces meet without a seam.
+void StrokePieces(QPainter& painter, const std::vector<QPointF>& points) {
+  for (std::size_t first = 0; first + 1 < points.size(); first += kPiece) {
+    const std::size_t last = std::min(first + kPiece, points.size() - 1);
+    painter.drawPolyline(points.data() + first, static_cast<int>(last - first + 1));
+  }
+}
+
 void PaintCurve(QPainter& painter, const Surface& surface, const Stroke& stroke, const QRectF& area, double weight) {
   const Mapping map(stroke.scale, area);
   ThinnedCurve curve;
   const Point* const points = surface.points.data() + stroke.first;
   for (std::size_t i = 0; i < stroke.count; ++i) curve.Add(map(points[i]));
-  const std::vector<QPointF>& kept = curve.Finish();
-  painter.setPen(QPen(LiteralColour(stroke.colour), kCurveWeight * weight, Qt::SolidLine, Qt::FlatCap, Qt::BevelJoin));
-  painter.drawPolyline(kept.data(), static_cast<int>(kept.size()));
+  painter.setPen(QPen(LiteralColour(stroke.colour), kCurveWeight * weight, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+  StrokePieces(painter, curve.Finish());
 }
 
 }  // namespace

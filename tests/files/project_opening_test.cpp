@@ -228,9 +228,19 @@ TEST(Reading, SetsF3ToZeroWithoutItsLine) {
   Desk desk;
   Lines lines = LongestFile();
   lines.erase(std::find(lines.begin(), lines.end(), "Fb-3dB=28.25"));
+  desk.state.F3v = 99;
   OpenBytes(desk, Unfinished(lines));
   EXPECT_EQ(desk.state.F3v, 0);
   EXPECT_EQ(desk.state.WidthPrism, 30.125);
+}
+
+TEST(Reading, ForgetsThatTheAirHadChanged) {
+  Desk desk;
+  desk.Begin();
+  desk.state.AirChanged = true;
+  desk.platform.files.emplace_back(desk.folder.Write("opened.pro", Unfinished(ClosedFile())));
+  desk.Choose("mdithsm.mnuapriprogetto");
+  EXPECT_FALSE(desk.state.AirChanged);
 }
 
 TEST(Reading, ShowsASectionThatIsTooSmallInRed) {
