@@ -24,31 +24,30 @@ void BenchDesk::DesignVented() {
   Start(program, "");
   Choose(program, program.windows.mdithsm.mnuinsmanuale);
   const auto set = [&](const char* field, const char* text) { Paste(program, FindControl(program, field), text); };
-  for (const auto& [field, text] :
-       std::initializer_list<std::pair<const char*, const char*>>{
+  for (const auto& [field, text] : std::initializer_list<std::pair<const char*, const char*>>{
            {"txtpotenza", "100"}, {"txtimpedenza", "8"}, {"txtsensibilita", "90"}, {"txtxmax", "5"}}) {
     set(field, text);
   }
   ClickTab(program, "dim");
   for (const auto& [field, text] : std::initializer_list<std::pair<const char*, const char*>>{{"txtforo", "230"},
-                                                                                             {"txtprof", "110"},
-                                                                                             {"txtlagmagne", "140"},
-                                                                                             {"txtprofmag", "50"},
-                                                                                             {"txtesterno", "260"},
-                                                                                             {"txtspesbordo", "8"},
-                                                                                             {"txtdiambob", "38"}}) {
+                                                                                              {"txtprof", "110"},
+                                                                                              {"txtlagmagne", "140"},
+                                                                                              {"txtprofmag", "50"},
+                                                                                              {"txtesterno", "260"},
+                                                                                              {"txtspesbordo", "8"},
+                                                                                              {"txtdiambob", "38"}}) {
     set(field, text);
   }
   Focus(program, program.windows.frmthsm.txtvolume);
   ClickTab(program, "par");
   for (const auto& [field, text] : std::initializer_list<std::pair<const char*, const char*>>{{"txtfs", "35"},
-                                                                                             {"txtrvc", "5.6"},
-                                                                                             {"txtqmesin", "4.2"},
-                                                                                             {"txtbl", "9.5"},
-                                                                                             {"txtd", "210"},
-                                                                                             {"txtqes", "0.45"},
-                                                                                             {"txtqts", "0.41"},
-                                                                                             {"txtmms", "0.038"}}) {
+                                                                                              {"txtrvc", "5.6"},
+                                                                                              {"txtqmesin", "4.2"},
+                                                                                              {"txtbl", "9.5"},
+                                                                                              {"txtd", "210"},
+                                                                                              {"txtqes", "0.45"},
+                                                                                              {"txtqts", "0.41"},
+                                                                                              {"txtmms", "0.038"}}) {
     set(field, text);
   }
   platform.answers.push_back(Answer::Yes);

@@ -14,7 +14,7 @@
 namespace {
 
 constexpr double kTwoPi = 6.28318530717958;
-constexpr double kStep = 0.7324;  // Hz
+constexpr double kStep = 0.7324;   // Hz
 constexpr double kNoise = 0.0004;  // of the modulus
 
 struct Woofer {

@@ -19,7 +19,7 @@ enum class KeyFilter {
   Number,        // digits and one point; a comma becomes a point; nothing may follow a leading 0 but a point
   NumberLoose,   // the same, without the rule of the leading 0
   SignedNumber,  // the loose one, with a minus sign
-  AppliedPower,         // the strict one, whose first rule only warns: the key stays; Enter leads to `cmdcalc`
+  AppliedPower,  // the strict one, whose first rule only warns: the key stays; Enter leads to `cmdcalc`
   Integer,       // the strict one, where a comma is rejected and the warning asks for an integer
 };
 
@@ -36,8 +36,8 @@ enum class LeavingTest {
   NoTest,
   NonZero,  // the reading must not be 0; an empty field counts as 0
   NonZeroUnlessReadOnly,
-  NonZeroIfFilled,    // an empty field may be left
-  NonZeroSdOrD,  // one of `txtsd` and `txtd` must read as non-zero
+  NonZeroIfFilled,  // an empty field may be left
+  NonZeroSdOrD,     // one of `txtsd` and `txtd` must read as non-zero
 };
 
 enum class ZeroText {

@@ -33,9 +33,12 @@ Windows::Windows(ProjectState& state)
       frmAbout(state) {}
 
 std::vector<Window*> Windows::All() {
-  return {&mdithsm.window, &frmthsm.window, &frmgrafcassa.window, &frmdimensioni.window, &frmopzioni.window,
-          &frmwooferconn.window, &frmbox.window, &frmalfa.window, &frmgrafico.window, &frmvalc.window, &frmvalf.window,
-          &frmspl.window, &frmsplMax.window, &frmescursione.window, &frmairspeed.window, &frmFase.window, &frmfiltri.window, &frmFaseSh.window, &frmfasecompl.window, &frmsommadelay.window, &frmcalcolatrice.window, &frmAbout.window};
+  return {&mdithsm.window,         &frmthsm.window,       &frmgrafcassa.window, &frmdimensioni.window,
+          &frmopzioni.window,      &frmwooferconn.window, &frmbox.window,       &frmalfa.window,
+          &frmgrafico.window,      &frmvalc.window,       &frmvalf.window,      &frmspl.window,
+          &frmsplMax.window,       &frmescursione.window, &frmairspeed.window,  &frmFase.window,
+          &frmfiltri.window,       &frmFaseSh.window,     &frmfasecompl.window, &frmsommadelay.window,
+          &frmcalcolatrice.window, &frmAbout.window};
 }
 
 Program::Program(Platform& the_platform, Language the_language, std::filesystem::path the_folder)

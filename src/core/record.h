@@ -11,8 +11,8 @@
 namespace zefirondo {
 
 /// A value somewhere in the program that can be asked for by name.
-using ValueRef = std::variant<std::monostate, const double*, const float*, const std::int16_t*, const std::int32_t*, const bool*,
-                              const std::string*, const Curve*>;
+using ValueRef = std::variant<std::monostate, const double*, const float*, const std::int16_t*, const std::int32_t*,
+                              const bool*, const std::string*, const Curve*>;
 
 /// The member of the record with this name; `std::monostate` when there is none. Sheet fields are not among
 /// them: their controls answer for them.

@@ -15,7 +15,7 @@
 namespace zefirondo {
 
 struct Row {
-  double first = 0.0;   // mostly a frequency in Hz
+  double first = 0.0;  // mostly a frequency in Hz
   double second = 0.0;
 };
 

@@ -107,8 +107,6 @@ void ImportTransducerData(Program& program) {
   sheet.mnuimporta.enabled = true;
 }
 
-void ConnectTransducerFile(Program& program) {
-  program.windows.frmthsm.mnuimportadati.on.click = ImportTransducerData;
-}
+void ConnectTransducerFile(Program& program) { program.windows.frmthsm.mnuimportadati.on.click = ImportTransducerData; }
 
 }  // namespace zefirondo

@@ -31,7 +31,9 @@ std::int16_t OrderOf(const std::string& slope) {
   return static_cast<std::int16_t>(found == kSlopes.end() ? kSteepest : found - kSlopes.begin() + 1);
 }
 
-void cmbpendenza_Click(Program& program) { Designer(program).SlopeOrder = OrderOf(*Designer(program).cmbpendenza.text); }
+void cmbpendenza_Click(Program& program) {
+  Designer(program).SlopeOrder = OrderOf(*Designer(program).cmbpendenza.text);
+}
 
 void TakeGain(Program& program) {
   Designer(program).Gain = static_cast<float>(ReadNumber(*Designer(program).cmbgain.text));
@@ -49,8 +51,7 @@ void frmfiltri_Load(Program& program) {
   cmbpendenza_Click(program);
   TakeGain(program);
   TakeFrequencies(form);
-  for (Control* const control :
-       {&form.lblFh, &form.txtFinf, &form.lblQ, &form.cmbQ, &form.cmdcanc, &form.mnusintesi}) {
+  for (Control* const control : {&form.lblFh, &form.txtFinf, &form.lblQ, &form.cmbQ, &form.cmdcanc, &form.mnusintesi}) {
     control->enabled = false;
   }
 }

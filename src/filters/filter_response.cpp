@@ -24,9 +24,7 @@ double HalfPi() { return 2 * std::atan(1.0); }
 // ---- slopes: Butterworth and Bessel ----
 
 /// The attenuation in dB of one slope by the ratio that grows into its stop band.
-double ButterworthSlope(double ratio, int order) {
-  return 20 * Log10(1 / std::sqrt(std::pow(ratio, 2 * order) + 1));
-}
+double ButterworthSlope(double ratio, int order) { return 20 * Log10(1 / std::sqrt(std::pow(ratio, 2 * order) + 1)); }
 double BesselSlope(double ratio, int order) { return 20 * Log10(1 / std::sqrt(std::pow(ratio + 1, order))); }
 
 /// Phases are known for the first two orders; the others have none.

@@ -13,8 +13,8 @@
 namespace zefirondo {
 
 struct FilterSettings {
-  std::string alignment;  // "Butterworth", "Bessel", "Shelving", "Peaking"
-  std::string type;       // "Low Pass", "Hi Pass", "Band Pass"
+  std::string alignment;   // "Butterworth", "Bessel", "Shelving", "Peaking"
+  std::string type;        // "Low Pass", "Hi Pass", "Band Pass"
   std::int16_t order = 2;  // of the slope, 1 to 4
   float gain = 0.0F;       // dB
   double q = 0.707;

@@ -16,12 +16,12 @@
 namespace zefirondo {
 namespace {
 
-constexpr double kLeft = 10;    // 10 Hz
-constexpr double kWidth = 66;   // to 20 kHz
+constexpr double kLeft = 10;   // 10 Hz
+constexpr double kWidth = 66;  // to 20 kHz
 constexpr double kHeight = 360;
 constexpr double kTop = 180;
 constexpr double kPlotShift = 10;
-constexpr double kEdge = 170;   // degrees from which a jump is a wrap
+constexpr double kEdge = 170;  // degrees from which a jump is a wrap
 constexpr const char* kBlackCurve = "Nero";
 constexpr const char* kMagentaCurve = "Magenta";
 
@@ -203,8 +203,8 @@ void frmFaseSh_Load(Program& program) {
   PhaseOffsetTool& form = Tool(program);
   form.surface.scale = {kLeft, kWidth, kHeight};
   ClearChart(program);
-  for (Control* const control : {&form.mnusalvarosso, &form.mnusalvablu, &form.cmdcalcola, &form.cmdset1, &form.cmdset2,
-                                 &form.cmdsomma}) {
+  for (Control* const control :
+       {&form.mnusalvarosso, &form.mnusalvablu, &form.cmdcalcola, &form.cmdset1, &form.cmdset2, &form.cmdsomma}) {
     control->enabled = false;
   }
   for (const CurveSlot& slot : kSlots) s.*slot.stored = s.*slot.shown = false;

@@ -8,8 +8,8 @@ namespace zefirondo {
 struct PhaseOffset {
   double degrees = 0.0;
   double milliseconds = 0.0;
-  double samples48 = 0.0;   // at 48 kHz
-  double samples44 = 0.0;   // at 44.1 kHz
+  double samples48 = 0.0;  // at 48 kHz
+  double samples44 = 0.0;  // at 44.1 kHz
 };
 
 /// The phase in degrees of a curve at `fo` Hz: that of the last point at or below it, less a turn for each wrap from

@@ -185,9 +185,8 @@ void cmdcancellaspl_Click(Program& program) {
 void SommaTutto(Program& program) {
   ProjectState& s = program.state;
   const BoxResponse& form = program.windows.frmgrafcassa;
-  Sum(s, form.OverlayFreq, [&](std::size_t i) {
-    return (At(s.FilterDb, i) + At(form.OverlayDb, i)) + At(s.BoxDb, i) - kThreeTerms;
-  });
+  Sum(s, form.OverlayFreq,
+      [&](std::size_t i) { return (At(s.FilterDb, i) + At(form.OverlayDb, i)) + At(s.BoxDb, i) - kThreeTerms; });
 }
 
 void SommaFiltro(Program& program) {

@@ -17,12 +17,27 @@ struct FrequencyLabel {
 };
 
 constexpr auto kBoxFrequencies = std::to_array<FrequencyLabel>({
-    {"10", 2140}, {"20", 2940}, {"30", 3385}, {"40", 3720}, {"50", 3970}, {"100", 4730}, {"200", 5510},
-    {"300", 6030}, {"1k", 7390}, {"2k", 8170},
+    {"10", 2140},
+    {"20", 2940},
+    {"30", 3385},
+    {"40", 3720},
+    {"50", 3970},
+    {"100", 4730},
+    {"200", 5510},
+    {"300", 6030},
+    {"1k", 7390},
+    {"2k", 8170},
 });
 
 constexpr auto kImpedanceFrequencies = std::to_array<FrequencyLabel>({
-    {"10", 1800}, {"20", 2377}, {"100", 3680}, {"200", 4247}, {"1k", 5700}, {"2k", 6267}, {"10k", 7620}, {"20k", 8230},
+    {"10", 1800},
+    {"20", 2377},
+    {"100", 3680},
+    {"200", 4247},
+    {"1k", 5700},
+    {"2k", 6267},
+    {"10k", 7620},
+    {"20k", 8230},
 });
 
 /// What differs between the two pages.
@@ -81,15 +96,15 @@ void PrintImpedance(Program& program) { PrintGraph(program, ImpedancePage); }
 }  // namespace
 
 Page BoxGraphPage(Program& program) {
-  return GraphPage(program, {"Funzione di trasferimento. Diffusore: ", &program.state.ProjectTitle,
-                             program.state.BoxScaleTop, 40, "frmgrafcassa.pctgraf",
-                             &program.windows.frmgrafcassa.surface, kBoxFrequencies, "dB"});
+  return GraphPage(
+      program, {"Funzione di trasferimento. Diffusore: ", &program.state.ProjectTitle, program.state.BoxScaleTop, 40,
+                "frmgrafcassa.pctgraf", &program.windows.frmgrafcassa.surface, kBoxFrequencies, "dB"});
 }
 
 Page ImpedancePage(Program& program) {
-  return GraphPage(program, {"Grafico impedenza. Trasduttore: ", &program.state.ImpFileTitle,
-                             program.state.ImpScaleTop, 0, "frmgrafico.pctgrafimp",
-                             &program.windows.frmgrafico.surface, kImpedanceFrequencies, "Ohm"});
+  return GraphPage(program,
+                   {"Grafico impedenza. Trasduttore: ", &program.state.ImpFileTitle, program.state.ImpScaleTop, 0,
+                    "frmgrafico.pctgrafimp", &program.windows.frmgrafico.surface, kImpedanceFrequencies, "Ohm"});
 }
 
 void ConnectGraphPages(Program& program) {

@@ -15,11 +15,11 @@ struct RuleRow {
 };
 
 constexpr std::array<RuleRow, 5> kRules{{
-    {By::One, By::Times},    // Shown
-    {By::Over, By::One},     // Opened
-    {By::Over, By::Over},    // Redrawn
-    {By::Times, By::Over},   // RedrawnClosed
-    {By::Over, By::Times},   // InsideClosed
+    {By::One, By::Times},   // Shown
+    {By::Over, By::One},    // Opened
+    {By::Over, By::Over},   // Redrawn
+    {By::Times, By::Over},  // RedrawnClosed
+    {By::Over, By::Times},  // InsideClosed
 }};
 
 }  // namespace

@@ -82,7 +82,8 @@ void cmdcancella_Click(Program& program) {
   DropBoxSum(program);
   ForgetBoxTraces(program);
   // Slot 2 keeps its arrays, without effect: its flags have fallen.
-  for (Curve* const curve : {&s.Set1BoxFreq, &s.Set1BoxDb, &s.SumPhaseDeg, &form.OverlayFreq, &form.OverlayDb, &s.FilterFreq, &s.FilterDb}) {
+  for (Curve* const curve :
+       {&s.Set1BoxFreq, &s.Set1BoxDb, &s.SumPhaseDeg, &form.OverlayFreq, &form.OverlayDb, &s.FilterFreq, &s.FilterDb}) {
     curve->clear();
   }
   AssignText(program, form.txtdbcal, "0");
@@ -92,9 +93,7 @@ void cmdcancella_Click(Program& program) {
   if (form.released != nullptr) form.released(program);
 }
 
-void mnuimportatracciato_Click(Program& program) {
-  PaintTraceFile(program, BoxTraces(program), program.Text(468));
-}
+void mnuimportatracciato_Click(Program& program) { PaintTraceFile(program, BoxTraces(program), program.Text(468)); }
 
 void mnusalvatracciatorosso_Click(Program& program) { SaveTraceSlot(program, BoxTraces(program), 0); }
 void mnusalvatracciatoblu_Click(Program& program) { SaveTraceSlot(program, BoxTraces(program), 1); }

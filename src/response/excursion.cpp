@@ -132,8 +132,7 @@ DrawnCurve EscursioneChiusa(const ProjectState& s, double power) {
   const DriverInputs driver = GatherDriver(s);
   const double used = ApplyPowerRule(s, PowerRule::InsideClosed, power);
   const double k1 = Divide(SquareRoot(used / kTwoPi), ReadNumber(s.txtsd));
-  const double k2 =
-      SquareRoot(Divide(driver.vas, s.Velocity * s.Velocity * ((driver.qes * driver.fs) * s.roo)));
+  const double k2 = SquareRoot(Divide(driver.vas, s.Velocity * s.Velocity * ((driver.qes * driver.fs) * s.roo)));
   const double scale = (k1 * 100) * k2;
   const double qtc_squared = s.Qtc * s.Qtc;
   const std::vector<double>& hertz = Sweep5k().hertz;

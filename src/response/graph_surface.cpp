@@ -9,15 +9,15 @@
 namespace zefirondo {
 namespace {
 
-constexpr int kZeroDecibel = 40;     // a box level of 0 dB is stored as 40
-constexpr double kBoxGridLeft = 20;  // the x at the left edge of the box plot
+constexpr int kZeroDecibel = 40;           // a box level of 0 dB is stored as 40
+constexpr double kBoxGridLeft = 20;        // the x at the left edge of the box plot
 constexpr double kLowGridLeft = 10;        // of the plots that begin at 3.16 Hz
 constexpr int kExcursionGridLimit = 1000;  // Hz
 constexpr int kLevelGridLimit = 2000;
-constexpr int kLevelStep = 10;     // dB or m/s
-constexpr int kPhaseHeight = 360;  // degrees
+constexpr int kLevelStep = 10;              // dB or m/s
+constexpr int kPhaseHeight = 360;           // degrees
 constexpr int kImpedanceGridLimit = 10000;  // Hz
-constexpr int kBoxGridLimit = 5000;  // Hz
+constexpr int kBoxGridLimit = 5000;         // Hz
 
 /// How many points of a curve with this many slots are drawn.
 std::size_t DrawnPoints(std::size_t slots) { return slots >= 4 ? slots - 2 : 0; }

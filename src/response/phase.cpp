@@ -122,8 +122,7 @@ void FaseReflex(ProjectState& s, double vb, double fs, double qts, double fb, do
   const double alpha = Divide(vas_total, vb);
   const double p1 = Divide(1, ql * fb) + Divide(1, fs * qts);
   const double p2 = Divide(1, qts * fb) + Divide(1, ql + fs);  // a sum, where the term above has a product: wanted
-  const double p3 =
-      (Divide(1, fs * fs) + Divide(alpha, fb * fb)) + Divide(1, ((fs * fb) * qts) * ql);
+  const double p3 = (Divide(1, fs * fs) + Divide(alpha, fb * fb)) + Divide(1, ((fs * fb) * qts) * ql);
   const std::vector<double>& hertz = Sweep5k().hertz;
   const double half_turn = 2 * std::atan(1.0);
   double previous = 0.0;

@@ -53,9 +53,7 @@ double OneDriverLevel(const ProjectState& s) {
 
 void TakeOneWattLevel(ProjectState& s) { s.USPL = OneDriverLevel(s) + WiringGain(s); }
 
-void TakePowerLevel(ProjectState& s, double power) {
-  s.SPLmax = 10 * Log10(power) + OneDriverLevel(s) + WiringGain(s);
-}
+void TakePowerLevel(ProjectState& s, double power) { s.SPLmax = 10 * Log10(power) + OneDriverLevel(s) + WiringGain(s); }
 
 bool OnVentedTab(const Program& program) { return program.windows.frmthsm.selected_tab == "ref"; }
 
@@ -77,8 +75,7 @@ void frmspl_Load(Program& program) {
 
 void frmspl_Unload(Program& program) {
   ProjectState& s = program.state;
-  for (Curve* const curve :
-       {&s.SplFreq, &s.SplDb, &s.Set1SplFreq, &s.Set1SplDb, &s.Set2SplFreq, &s.Set2SplDb}) {
+  for (Curve* const curve : {&s.SplFreq, &s.SplDb, &s.Set1SplFreq, &s.Set1SplDb, &s.Set2SplFreq, &s.Set2SplDb}) {
     curve->clear();
   }
   s.Set1SplStored = s.Set2SplStored = s.Set1SplShown = s.Set2SplShown = s.GrafSplOpen = false;

@@ -122,7 +122,8 @@ std::optional<PrintChoice> QueuedPlatform::ChoosePrinter() {
     return std::nullopt;
   }
   printer_fails_ = printer.fails;
-  Print("printer -> " + std::to_string(printer.choice.copies) + (printer.choice.landscape ? " landscape" : " portrait"));
+  Print("printer -> " + std::to_string(printer.choice.copies) +
+        (printer.choice.landscape ? " landscape" : " portrait"));
   return printer.choice;
 }
 

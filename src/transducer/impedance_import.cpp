@@ -13,7 +13,7 @@
 namespace zefirondo {
 namespace {
 
-constexpr double kPeakAbove = 10.0;   // Hz, both bounds excluded
+constexpr double kPeakAbove = 10.0;  // Hz, both bounds excluded
 constexpr double kPeakBelow = 300.0;
 constexpr double kHighest = 20000.0;
 constexpr double kLargestMinimum = 500.0;  // ohm

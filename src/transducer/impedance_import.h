@@ -12,13 +12,13 @@
 namespace zefirondo {
 
 struct ImpedancePoints {
-  double Fs = 0.0;     // Hz, frequency of the peak
-  double Zmax = 0.0;   // ohm
-  double Zmin = 0.0;   // ohm, the least modulus above Fs; 500 where there is none
-  double Zc = 0.0;     // ohm, the level at Fl and Fh
-  double Fh = 0.0;     // Hz
-  double Fl = 0.0;     // Hz; 0 when no rising crossing was found
-  double Bw = 0.0;     // Hz
+  double Fs = 0.0;    // Hz, frequency of the peak
+  double Zmax = 0.0;  // ohm
+  double Zmin = 0.0;  // ohm, the least modulus above Fs; 500 where there is none
+  double Zc = 0.0;    // ohm, the level at Fl and Fh
+  double Fh = 0.0;    // Hz
+  double Fl = 0.0;    // Hz; 0 when no rising crossing was found
+  double Bw = 0.0;    // Hz
   double Qms = 0.0;
 };
 

@@ -134,9 +134,9 @@ void mnuchiudi_Click(Program& program) { CloseWindow(program, Form(program).wind
 void ConnectCalculator(Program& program) {
   Calculator& form = Form(program);
   form.window.on.load = Restart;
-  constexpr ControlEvents::Routine kDigits[] = {Number_Click<'0'>, Number_Click<'1'>, Number_Click<'2'>, Number_Click<'3'>,
-                                                Number_Click<'4'>, Number_Click<'5'>, Number_Click<'6'>, Number_Click<'7'>,
-                                                Number_Click<'8'>, Number_Click<'9'>};
+  constexpr ControlEvents::Routine kDigits[] = {
+      Number_Click<'0'>, Number_Click<'1'>, Number_Click<'2'>, Number_Click<'3'>, Number_Click<'4'>,
+      Number_Click<'5'>, Number_Click<'6'>, Number_Click<'7'>, Number_Click<'8'>, Number_Click<'9'>};
   for (std::size_t i = 0; i < form.Number.size(); ++i) form.Number.at(i).on.click = kDigits[i];
   constexpr ControlEvents::Routine kOperators[] = {Operator_Click<0>, Operator_Click<1>, Operator_Click<2>,
                                                    Operator_Click<3>, Operator_Click<4>};

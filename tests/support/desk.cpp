@@ -64,18 +64,30 @@ void Desk::BeginImpedance() {
 
 void Desk::FillWoofer() {
   using Row = std::pair<const char*, const char*>;
-  for (const auto& [field, text] : {Row{"txtpotenza", "100"}, {"txtimpedenza", "8"}, {"txtsensibilita", "90"}, {"txtxmax", "5"}}) {
+  for (const auto& [field, text] :
+       {Row{"txtpotenza", "100"}, {"txtimpedenza", "8"}, {"txtsensibilita", "90"}, {"txtxmax", "5"}}) {
     Set(field, text);
   }
   Tab("dim");
-  for (const auto& [field, text] : {Row{"txtforo", "230"}, {"txtprof", "110"}, {"txtlagmagne", "140"}, {"txtprofmag", "50"},
-                                    {"txtesterno", "260"}, {"txtspesbordo", "8"}, {"txtdiambob", "38"}}) {
+  for (const auto& [field, text] : {Row{"txtforo", "230"},
+                                    {"txtprof", "110"},
+                                    {"txtlagmagne", "140"},
+                                    {"txtprofmag", "50"},
+                                    {"txtesterno", "260"},
+                                    {"txtspesbordo", "8"},
+                                    {"txtdiambob", "38"}}) {
     Set(field, text);
   }
   Focus("txtvolume");
   Tab("par");
-  for (const auto& [field, text] : {Row{"txtfs", "35"}, {"txtrvc", "5.6"}, {"txtqmesin", "4.2"}, {"txtbl", "9.5"}, {"txtd", "210"},
-                                    {"txtqes", "0.45"}, {"txtqts", "0.41"}, {"txtmms", "0.038"}}) {
+  for (const auto& [field, text] : {Row{"txtfs", "35"},
+                                    {"txtrvc", "5.6"},
+                                    {"txtqmesin", "4.2"},
+                                    {"txtbl", "9.5"},
+                                    {"txtd", "210"},
+                                    {"txtqes", "0.45"},
+                                    {"txtqts", "0.41"},
+                                    {"txtmms", "0.038"}}) {
     Set(field, text);
   }
 }

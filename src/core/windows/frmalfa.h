@@ -16,7 +16,6 @@ struct AlignmentChart {
   Control lblVbSuVas, txtVbsuVas, lblFbsuFs, txtFbSuFs, cmdok;
   Control mnuchiudi;
 
-
   explicit AlignmentChart(ProjectState& state);
 };
 

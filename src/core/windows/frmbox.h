@@ -10,7 +10,6 @@ struct BoxTypeChoice {
   Control lblebp, txtebp, lbltesto, lbltipobox, cmbtipobox, cmdok;
   Control mnuchiudi;
 
-
   explicit BoxTypeChoice(ProjectState& state);
 };
 

@@ -43,8 +43,13 @@ Calculator::Calculator(ProjectState& state) {
   window.takes_focus = true;
   window.width = 3600;
   window.height = 4500;
-  window.values = {{"Op1", &Op1}, {"Op2", &Op2}, {"DecimalFlag", &DecimalFlag}, {"NumOps", &NumOps},
-                   {"LastInput", &LastInput}, {"OpFlag", &OpFlag}, {"TempReadout", &TempReadout}};
+  window.values = {{"Op1", &Op1},
+                   {"Op2", &Op2},
+                   {"DecimalFlag", &DecimalFlag},
+                   {"NumOps", &NumOps},
+                   {"LastInput", &LastInput},
+                   {"OpFlag", &OpFlag},
+                   {"TempReadout", &TempReadout}};
   DescribeWindow(*this, state, kRows);
 }
 

@@ -19,11 +19,11 @@ struct Calculator {
 
   double Op1 = 0.0;  // the first operand and running result
   double Op2 = 0.0;
-  bool DecimalFlag = false;       // the point has been keyed in the number being entered
-  std::int16_t NumOps = 0;        // operands pending
+  bool DecimalFlag = false;           // the point has been keyed in the number being entered
+  std::int16_t NumOps = 0;            // operands pending
   std::string LastInput = "NESSUNO";  // "NESSUNO", "NUM", "OP", "NEG" or "CE"
-  std::string OpFlag = " ";       // the operator pending
-  std::string TempReadout;        // the display when an operator was pressed
+  std::string OpFlag = " ";           // the operator pending
+  std::string TempReadout;            // the display when an operator was pressed
 
   explicit Calculator(ProjectState& state);
 };

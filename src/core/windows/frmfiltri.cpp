@@ -52,8 +52,12 @@ FilterDesigner::FilterDesigner(ProjectState& state) {
   window.takes_focus = true;
   window.width = 5700;
   window.height = 4800;
-  window.values = {{"Alignment", &Alignment}, {"FilterType", &FilterType}, {"SlopeOrder", &SlopeOrder},
-                   {"Gain", &Gain},           {"Ft", &Ft},                 {"Fi", &Fi}};
+  window.values = {{"Alignment", &Alignment},
+                   {"FilterType", &FilterType},
+                   {"SlopeOrder", &SlopeOrder},
+                   {"Gain", &Gain},
+                   {"Ft", &Ft},
+                   {"Fi", &Fi}};
   DescribeWindow(*this, state, kRows);
 }
 

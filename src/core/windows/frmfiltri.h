@@ -18,7 +18,6 @@ struct FilterDesigner {
   Control mnucalcolatrice, mnuchiudi;
   Control mnuinfo, mnuguida, mnuinformazioni;
 
-
   // What the formulas work on; frequencies in Hz, the gain in dB, all in single precision.
   std::string Alignment, FilterType;
   std::int16_t SlopeOrder = 2;

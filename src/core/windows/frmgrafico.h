@@ -12,7 +12,6 @@ struct ImpedanceGraph {
   Control mnufilegrafico, mnugrafstampa, mnuchiudigraf;
   Control mnuinfo3, mnuguida, mnuinformazioni;
 
-
   explicit ImpedanceGraph(ProjectState& state);
 };
 

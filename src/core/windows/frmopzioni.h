@@ -13,7 +13,6 @@ struct ProjectOptions {
   Control cmdok;
   Control mnuchiudi;
 
-
   explicit ProjectOptions(ProjectState& state);
 };
 

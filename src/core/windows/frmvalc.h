@@ -10,7 +10,6 @@ struct CapacitorTool {
   Control lbldescriz, lblf1, txtf1, lblf2, txtf2, cmdavanti;
   Control mnuchiudi;
 
-
   explicit CapacitorTool(ProjectState& state);
 };
 

@@ -10,7 +10,6 @@ struct InductorTool {
   Control lbldescriz, lblf1, txtf1, lblf2, txtf2, cmdavanti;
   Control mnuchiudi;
 
-
   explicit InductorTool(ProjectState& state);
 };
 

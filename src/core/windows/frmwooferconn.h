@@ -11,7 +11,6 @@ struct WooferWiringChoice {
   Control Command1;
   Control mnuchiudi;
 
-
   explicit WooferWiringChoice(ProjectState& state);
 };
 
