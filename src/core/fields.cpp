@@ -86,7 +86,7 @@ constexpr auto kFieldRules = std::to_array<FieldRules>({
     {"frmsplMax", "txtpot", AppliedPower, SelectAll, NonZero, Allowed, "cmdcalc"},
     {"frmescursione", "txtpot", AppliedPower, SelectAll, NonZero, Allowed, "cmdcalc"},
     {"frmairspeed", "txtpot", AppliedPower, SelectAll, NonZero, Allowed, "cmdcalc"},
-    {"frmfiltri", "cmbgain", SignedNumber},
+    {"frmfiltri", "cmbgain", Gain},
     {"frmfiltri", "cmbQ", Number},
     {"frmfiltri", "txtft", Number, SelectAll, NoTest, GiveBack},
     {"frmfiltri", "txtFinf", Number, SelectAll, NoTest, GiveBack},
@@ -146,17 +146,16 @@ bool FilterKey(Program& program, Control& field, int k) {
   if (field.rules == nullptr || field.rules->filter == KeyFilter::AnyKey) return true;
 
   const FieldRules& rules = *field.rules;
-  const bool strict = rules.filter == Number || rules.filter == Integer;
+  const bool strict = rules.filter == Number || rules.filter == Integer || rules.filter == Gain;
   Control& zero = rules.leading_zero_of.empty() ? field : *field.window->Find(rules.leading_zero_of);
   const bool after_leading_zero = *zero.text == "0" && k != '.' && k != key::kBackspace;
   if (strict && after_leading_zero) return Reject(program, zero, 114);
-  if (rules.filter == AppliedPower && after_leading_zero) {  // it warns, and lets the key through, as wanted
+  if (rules.filter == AppliedPower && after_leading_zero) {  // it warns, and the key goes on through the rules: wanted
     program.ErrorMessage(program.Text(114));
     field.selection_start = field.selection_length = 0;
-    return true;
   }
   if (IsDigitKey(k) || k == key::kBackspace) return true;
-  if (k == '-' && rules.filter == SignedNumber) return true;
+  if (k == '-' && (rules.filter == SignedNumber || rules.filter == Gain)) return true;
   if (k == key::kEnter) {
     PassFocusByEnter(program, field);
     return false;

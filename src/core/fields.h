@@ -19,7 +19,8 @@ enum class KeyFilter {
   Number,        // digits and one point; a comma becomes a point; nothing may follow a leading 0 but a point
   NumberLoose,   // the same, without the rule of the leading 0
   SignedNumber,  // the loose one, with a minus sign
-  AppliedPower,  // the strict one, whose first rule only warns: the key stays; Enter leads to `cmdcalc`
+  Gain,          // the strict one, with a minus sign
+  AppliedPower,  // the strict one, whose first rule only warns
   Integer,       // the strict one, where a comma is rejected and the warning asks for an integer
 };
 

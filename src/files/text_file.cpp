@@ -121,7 +121,7 @@ std::filesystem::path ResolveTarget(const std::filesystem::path& path) {
   std::error_code error;
   const std::filesystem::path whole = std::filesystem::absolute(path, error);
   if (error) throw RunTimeError(ErrorNumber::PathAccess);
-  const std::filesystem::path target = FollowLinks(whole);
+  std::filesystem::path target = FollowLinks(whole);
   if (!std::filesystem::exists(target, error)) return target;
   // What is no regular file (a folder, a device, a pipe) is never replaced.
   if (!std::filesystem::is_regular_file(target, error)) throw RunTimeError(ErrorNumber::PathAccess);

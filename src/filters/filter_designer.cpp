@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <limits>
 
 #include "core/events.h"
 #include "core/numbers.h"
@@ -35,13 +37,18 @@ void cmbpendenza_Click(Program& program) {
   Designer(program).SlopeOrder = OrderOf(*Designer(program).cmbpendenza.text);
 }
 
-void TakeGain(Program& program) {
-  Designer(program).Gain = static_cast<float>(ReadNumber(*Designer(program).cmbgain.text));
+/// The number of a field in single precision.
+float ReadSingle(const Control& field) {
+  const double value = ReadNumber(*field.text);
+  if (std::fabs(value) > std::numeric_limits<float>::max()) throw RunTimeError(ErrorNumber::Overflow);
+  return static_cast<float>(value);
 }
 
+void TakeGain(Program& program) { Designer(program).Gain = ReadSingle(Designer(program).cmbgain); }
+
 void TakeFrequencies(FilterDesigner& form) {
-  form.Ft = static_cast<float>(ReadNumber(*form.txtft.text));
-  form.Fi = static_cast<float>(ReadNumber(*form.txtFinf.text));
+  form.Ft = ReadSingle(form.txtft);
+  form.Fi = ReadSingle(form.txtFinf);
 }
 
 void frmfiltri_Load(Program& program) {
@@ -117,7 +124,7 @@ void ChoosePeaking(Program& program) {
   FilterDesigner& form = Designer(program);
   AssignText(program, form.cmbQ, "0.707");
   ShowSlope(form, false);
-  ChooseType(program, "Low Pass");
+  AssignText(program, form.cmbtipo, "Low Pass");  // the text alone: the type plays no part here
   EnableQ(form, true);
   AssignText(program, form.lblft, program.Text(207));
   EnableUpper(form, true);

@@ -21,11 +21,19 @@ struct FilterPoint {
 
 double HalfPi() { return 2 * std::atan(1.0); }
 
+/// A failure of the arithmetic before a logarithm comes before that of the logarithm itself.
+double CheckedLog10(double x) {
+  if (!(x > 0)) CheckArithmetic();
+  return Log10(x);
+}
+
 // ---- slopes: Butterworth and Bessel ----
 
 /// The attenuation in dB of one slope by the ratio that grows into its stop band.
-double ButterworthSlope(double ratio, int order) { return 20 * Log10(1 / std::sqrt(std::pow(ratio, 2 * order) + 1)); }
-double BesselSlope(double ratio, int order) { return 20 * Log10(1 / std::sqrt(std::pow(ratio + 1, order))); }
+double ButterworthSlope(double ratio, int order) {
+  return 20 * CheckedLog10(1 / std::sqrt(std::pow(ratio, 2 * order) + 1));
+}
+double BesselSlope(double ratio, int order) { return 20 * CheckedLog10(1 / std::sqrt(std::pow(ratio + 1, order))); }
 
 /// Phases are known for the first two orders; the others have none.
 double LowPhase(double f, double ft, int order, double divisor) {
@@ -81,7 +89,7 @@ struct ShelvingFilter {
     const double s = low ? d * a - c * b : c * b - d * a;
     const double t = d * b + c * a;
     FilterPoint point;
-    point.y = 10 * Log10(n / den) + kOffset;
+    point.y = 10 * CheckedLog10(n / den) + kOffset;
     if (s != 0) point.phase = low ? std::atan(t / s) - HalfPi() : HalfPi() - std::atan(t / s);
     return point;
   }
@@ -99,7 +107,7 @@ struct PeakingFilter {
     const double c = w / (q * g);
     const double n = a * a + g * g * u / (q * q);
     const double den = a * a + u / (g * g * q * q);
-    return {10 * Log10(n / den) + kOffset, std::atan((b - c) * a / (a * a + c * b))};
+    return {10 * CheckedLog10(n / den) + kOffset, std::atan((b - c) * a / (a * a + c * b))};
   }
 };
 
@@ -122,11 +130,12 @@ std::optional<FilterFormula> ChooseSlope(const FilterSettings& s) {
   return filter;
 }
 
+double GainFactor(const FilterSettings& s) { return Power(10.0, static_cast<double>(s.gain) / 40); }
+
 std::optional<FilterFormula> ChooseFormula(const FilterSettings& s) {
-  const double a_gain = std::pow(10.0, static_cast<double>(s.gain) / 40);
-  if (s.alignment == "Shelving" && s.type == "Low Pass") return ShelvingFilter{true, s.ft, a_gain, s.q};
-  if (s.alignment == "Shelving" && s.type == "Hi Pass") return ShelvingFilter{false, s.fi, a_gain, s.q};
-  if (s.alignment == "Peaking") return PeakingFilter{s.ft, a_gain, s.q};
+  if (s.alignment == "Shelving" && s.type == "Low Pass") return ShelvingFilter{true, s.ft, GainFactor(s), s.q};
+  if (s.alignment == "Shelving" && s.type == "Hi Pass") return ShelvingFilter{false, s.fi, GainFactor(s), s.q};
+  if (s.alignment == "Peaking") return PeakingFilter{s.ft, GainFactor(s), s.q};
   return ChooseSlope(s);
 }
 

@@ -64,11 +64,12 @@ void frmgrafcassa_mnuimportaOverlay_Click(Program& program) {
     freq.push_back(20 * Log10(row.first));
     db.push_back(row.second + kOffset);
   });
-  if (freq.empty() && !read) return;
-  freq.push_back(0.0);  // the zero slot
-  db.push_back(0.0);
-  form.OverlayFreq = std::move(freq);
-  form.OverlayDb = std::move(db);
+  if (!freq.empty()) {
+    freq.push_back(0.0);  // the zero slot
+    db.push_back(0.0);
+    form.OverlayFreq = std::move(freq);
+    form.OverlayDb = std::move(db);
+  }
   if (!read) return;
   DrawOverlay(program);
   form.cmdsomma.enabled = form.cmdcancella.enabled = true;

@@ -161,6 +161,11 @@ void Form::Row(QWidget* words, QWidget* widget) {
   ++row_;
 }
 
+void Form::Row(QWidget* words, Control& field, Control& unit) {
+  QWidget* const widget = MakeWidget(binder_, field, parent_);
+  Place(words, widget, MakeWidget(binder_, unit, parent_));
+}
+
 void Form::Fill() { grid_->setRowStretch(row_, 1); }
 
 }  // namespace zefirondo::screens

@@ -35,6 +35,8 @@ class Form {
   void Wide(QWidget* widget, Qt::Alignment alignment = {});
   /// A row of words and a widget.
   void Row(QWidget* words, QWidget* widget);
+  /// A row of a widget that stands for the words, a field, and the words behind it.
+  void Row(QWidget* words, Control& field, Control& unit);
   /// Room that takes what is left over below the rows.
   void Fill();
 

@@ -29,7 +29,7 @@ void BuildPhaseGraph(Binder& binder, Window& /*window*/, QWidget* content) {
   PhaseGraph& form = binder.stage().program.windows.frmFase;
   auto* const column = new QVBoxLayout(content);
   PlotPanel* const panel =
-      AddGraph(binder, content, *column, {form.lbltitolo, form.pctgrafFase, form.lblfrequenza, kHighestFrequency});
+      AddGraph(binder, content, *column, {form.lbltitolo, form.pctgrafFase, form.lblfrequenza, FrequencyMarks(kHighestFrequency)});
   panel->SetFixedValues(Levels(form));
   auto* const row = new QHBoxLayout;
   auto* const traces = new QGridLayout;

@@ -16,7 +16,7 @@ void BuildAirSpeedGraph(Binder& binder, Window& /*window*/, QWidget* content) {
   AirSpeedGraph& form = binder.stage().program.windows.frmairspeed;
   auto* const column = new QVBoxLayout(content);
   AddGraph(binder, content, *column,
-           {form.lbltitolo, form.pctgrafair, form.lblfrequenza, kHighestFrequency, &form.lbldb});
+           {form.lbltitolo, form.pctgrafair, form.lblfrequenza, FrequencyMarks(kHighestFrequency), &form.lbldb});
   auto* const row = new QHBoxLayout;
   auto* const limits = new QVBoxLayout;
   limits->addLayout(MakeLineMark(binder, content, form.lblairspeed2, form.Line2));

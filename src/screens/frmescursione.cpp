@@ -16,7 +16,7 @@ void BuildExcursionGraph(Binder& binder, Window& /*window*/, QWidget* content) {
   ExcursionGraph& form = binder.stage().program.windows.frmescursione;
   auto* const column = new QVBoxLayout(content);
   AddGraph(binder, content, *column,
-           {form.lbltitolo, form.pctgrafex, form.lblfrequenza, kHighestFrequency, &form.lbldb});
+           {form.lbltitolo, form.pctgrafex, form.lblfrequenza, FrequencyMarks(kHighestFrequency), &form.lbldb});
   auto* const row = new QHBoxLayout;
   row->addLayout(MakeLineMark(binder, content, form.lblescursione, form.Line1));
   row->addStretch(1);

@@ -16,7 +16,7 @@ void BuildSplGraph(Binder& binder, Window& /*window*/, QWidget* content) {
   SplGraph& form = binder.stage().program.windows.frmspl;
   auto* const column = new QVBoxLayout(content);
   AddGraph(binder, content, *column,
-           {form.lblnomegrafspl, form.pctgrafspl, form.lblfrequenzaspl, kHighestFrequency, &form.lbldb});
+           {form.lblnomegrafspl, form.pctgrafspl, form.lblfrequenzaspl, FrequencyMarks(kHighestFrequency), &form.lbldb});
   auto* const row = new QHBoxLayout;
   auto* const traces = new QGridLayout;
   AddSlots(binder, content, *traces, 0, form);

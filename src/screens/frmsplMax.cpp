@@ -16,7 +16,7 @@ void BuildSplMaxGraph(Binder& binder, Window& /*window*/, QWidget* content) {
   SplMaxGraph& form = binder.stage().program.windows.frmsplMax;
   auto* const column = new QVBoxLayout(content);
   AddGraph(binder, content, *column,
-           {form.lblnomegrafspl, form.pctgrafspl, form.lblfrequenzaspl, kHighestFrequency, &form.lbldb});
+           {form.lblnomegrafspl, form.pctgrafspl, form.lblfrequenzaspl, FrequencyMarks(kHighestFrequency), &form.lbldb});
   auto* const row = new QHBoxLayout;
   row->addStretch(1);
   row->addLayout(MakePower(binder, content, form.lblpot, form.txtpot, form.lblrms, form.cmdcalc));

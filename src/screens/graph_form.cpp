@@ -40,7 +40,7 @@ PlotPanel* AddGraph(Binder& binder, QWidget* content, QVBoxLayout& column, const
   top->addWidget(MakeCentred(binder, graph.title, content, true), 1);
   column.addLayout(top);
 
-  auto* const panel = new PlotPanel(*graph.plot.surface, FrequencyMarks(graph.highest), content);
+  auto* const panel = new PlotPanel(*graph.plot.surface, graph.marks, graph.shift, content);
   panel->plot()->setObjectName(QString::fromStdString(graph.plot.FullName()));
   binder.Bind(graph.plot, panel->plot());
   const Control* const readout = graph.plot.readout;

@@ -23,9 +23,10 @@ class LineSample : public QWidget {
 struct GraphControls {
   Control& title;
   Control& plot;
-  Control& frequency;           // the words below the plot
-  double highest = 0.0;         // Hz, the last frequency that is written there
-  Control* unit = nullptr;      // of the values, above their strip
+  Control& frequency;                // the words below the plot
+  std::vector<FrequencyMark> marks;  // the frequencies that are written there
+  Control* unit = nullptr;           // of the values, above their strip
+  double shift = 0.0;                // a frequency f stands at 20·log10(f) - shift
 };
 
 /// Fills a column with a graph: title, plot, and the words below it.

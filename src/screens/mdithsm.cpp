@@ -11,9 +11,12 @@
 #include "core/acts.h"
 #include "core/events.h"
 #include "core/window_life.h"
+#include "screens/frmAbout.h"
 #include "screens/frmFase.h"
+#include "screens/frmFaseSh.h"
 #include "screens/frmairspeed.h"
 #include "screens/frmalfa.h"
+#include "screens/frmcalcolatrice.h"
 #include "screens/frmescursione.h"
 #include "screens/frmgrafcassa.h"
 #include "screens/frmgrafico.h"
@@ -47,6 +50,9 @@ constexpr std::array kContents = std::to_array<ContentRow>({
     {"frmairspeed", BuildAirSpeedGraph},
     {"frmFase", BuildPhaseGraph},
     {"frmalfa", BuildAlignmentChart},
+    {"frmFaseSh", BuildPhaseOffsetTool},
+    {"frmcalcolatrice", BuildCalculator},
+    {"frmAbout", BuildAbout},
 });
 
 BuildContent ContentOf(const Window& window) {
@@ -62,6 +68,8 @@ MainFrameView::MainFrameView(Program& program)
   setObjectName(QStringLiteral("mdithsm"));
   area_->setFocusPolicy(Qt::NoFocus);
   area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
+  area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   area_->installEventFilter(this);
   setCentralWidget(area_);
   setMenuBar(menu_bar_);

@@ -85,6 +85,7 @@ void DrawMeasure(QPainter& painter, const QPointF& from, const QPointF& to) {
 }
 
 constexpr std::array kIconSizes{16, 32, 48};
+constexpr QRgb kIconWood = 0x8a5a2b;
 
 /// In parts of the icon's side; `desktop` holds the same drawing.
 struct IconRing {
@@ -128,6 +129,20 @@ void DrawRectangularSection(QPainter& painter, const QRectF& area, const QColor&
   DrawLetter(painter, {section.left() + 9, section.center().y() - 3}, "b");
 }
 
+void DrawProgramIcon(QPainter& painter, const QRectF& area, const QColor& /*ink*/) {
+  painter.save();
+  painter.translate(area.topLeft());
+  painter.scale(area.width(), area.height());
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(kIconWood));
+  painter.drawRoundedRect(QRectF(0.08, 0.04, 0.84, 0.92), 0.08, 0.08);
+  for (const IconRing& ring : kIconRings) {
+    painter.setBrush(QColor(ring.colour));
+    painter.drawEllipse(QPointF(0.5, ring.centre), ring.radius, ring.radius);
+  }
+  painter.restore();
+}
+
 QIcon ProgramIcon() {
   QIcon icon;
   for (const int size : kIconSizes) {
@@ -135,14 +150,7 @@ QIcon ProgramIcon() {
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(size, size);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0x8a5a2b));
-    painter.drawRoundedRect(QRectF(0.08, 0.04, 0.84, 0.92), 0.08, 0.08);
-    for (const IconRing& ring : kIconRings) {
-      painter.setBrush(QColor(ring.colour));
-      painter.drawEllipse(QPointF(0.5, ring.centre), ring.radius, ring.radius);
-    }
+    DrawProgramIcon(painter, QRectF(0, 0, size, size), {});
     painter.end();
     icon.addPixmap(picture);
   }

@@ -16,6 +16,7 @@ void DrawPrism(QPainter& painter, const QRectF& area, const QColor& ink);
 void DrawTrapezoid(QPainter& painter, const QRectF& area, const QColor& ink);
 void DrawRoundSection(QPainter& painter, const QRectF& area, const QColor& ink);
 void DrawRectangularSection(QPainter& painter, const QRectF& area, const QColor& ink);
+void DrawProgramIcon(QPainter& painter, const QRectF& area, const QColor& ink);
 
 /// The program's icon: a woofer on its baffle.
 [[nodiscard]] QIcon ProgramIcon();

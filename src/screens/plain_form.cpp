@@ -45,6 +45,7 @@ class PlainForm {
       case ControlKind::Frame: AddGroup(control); return 0;
       case ControlKind::Button: AddButton(control); return 0;
       case ControlKind::Label: return AddLabel(place);
+      case ControlKind::Option: return AddOption(place);
       case ControlKind::TextBox:
       case ControlKind::ComboBox: FormOf(control).Row(control); return 0;
       default: FormOf(control).Wide(MakeWidget(binder_, control, GroundOf(control).widget)); return 0;
@@ -68,6 +69,20 @@ class PlainForm {
       FormOf(label).Row(label, *field);
     }
     return is_unit ? 2 : 1;
+  }
+
+  /// An option stands in a row of its own, or beside the field that it chooses.
+  std::size_t AddOption(std::size_t place) {
+    Control& option = *controls_[place];
+    QWidget* const widget = MakeWidget(binder_, option, GroundOf(option).widget);
+    Control* const field = At(place + 1);
+    Control* const unit = At(place + 2);
+    if (field == nullptr || !field->IsField() || unit == nullptr || unit->kind != ControlKind::Label) {
+      FormOf(option).Wide(widget);
+      return 0;
+    }
+    FormOf(option).Row(widget, *field, *unit);
+    return 2;
   }
 
   void AddText(Control& label) {

@@ -34,8 +34,8 @@ std::vector<FrequencyMark> FrequencyMarks(double highest) {
   return marks;
 }
 
-PlotPanel::PlotPanel(const Surface& surface, std::vector<FrequencyMark> marks, QWidget* parent)
-    : QWidget(parent), surface_(surface), marks_(std::move(marks)), plot_(new PlotWidget(surface, this)) {
+PlotPanel::PlotPanel(const Surface& surface, std::vector<FrequencyMark> marks, double shift, QWidget* parent)
+    : QWidget(parent), surface_(surface), marks_(std::move(marks)), shift_(shift), plot_(new PlotWidget(surface, this)) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
@@ -80,7 +80,7 @@ void PlotPanel::PaintFrequencies(QPainter& painter) const {
   for (const FrequencyMark& mark : marks_) {
     const QString text = QString::fromLatin1(mark.text);
     const double half = fontMetrics().horizontalAdvance(text) / 2.0;
-    const double x = plot_->x() + (20 * std::log10(mark.hertz) - scale.left) / scale.width * plot_->width();
+    const double x = plot_->x() + (20 * std::log10(mark.hertz) - shift_ - scale.left) / scale.width * plot_->width();
     if (x - half < free_from) continue;
     free_from = x + half + kLabelGap / 2.0;
     painter.drawText(QRectF(x - half, plot_->geometry().bottom() + kLabelGap, 2 * half + 1, fontMetrics().height()),

@@ -23,7 +23,8 @@ struct FrequencyMark {
 
 class PlotPanel : public QWidget {
  public:
-  PlotPanel(const Surface& surface, std::vector<FrequencyMark> marks, QWidget* parent);
+  /// A frequency f stands at 20·log10(f) - shift of the surface's user coordinates.
+  PlotPanel(const Surface& surface, std::vector<FrequencyMark> marks, double shift, QWidget* parent);
 
   [[nodiscard]] PlotWidget* plot() const { return plot_; }
   [[nodiscard]] QSize sizeHint() const override;
@@ -45,6 +46,7 @@ class PlotPanel : public QWidget {
   const Surface& surface_;
   std::vector<FrequencyMark> marks_;
   std::vector<StripLabel> fixed_values_;
+  double shift_;
   PlotWidget* plot_;
   std::uint64_t shown_ = 0;
 };

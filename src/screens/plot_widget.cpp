@@ -9,6 +9,7 @@
 #include <limits>
 #include <vector>
 
+#include "screens/curve_raster.h"
 #include "screens/looks.h"
 #include "screens/qt_text.h"
 
@@ -16,9 +17,8 @@ namespace zefirondo::screens {
 namespace {
 
 constexpr double kCurveWeight = 1.6;   // against a hairline of 1
-constexpr double kTolerance = 0.2;    // pixels that a thinned curve may stray from the full one
+constexpr double kTolerance = 0.08;    // pixels that a thinned curve may stray from the full one
 constexpr double kFarOutside = 4.0;    // plot heights beyond which a point need not be exact
-constexpr std::size_t kPiece = 12;      // segments that are stroked at once
 const QColor kGridColour(150, 150, 150);
 
 struct Mapping {
@@ -131,23 +131,16 @@ void PaintGrid(QPainter& painter, const Surface& surface, const QRectF& area, do
   }
 }
 
-/// The rasteriser's time grows with the square of what lies on one line of pixels, as most of a response does.
-/// The caps make the pieces meet without a seam.
-void StrokePieces(QPainter& painter, const std::vector<QPointF>& points) {
-  for (std::size_t first = 0; first + 1 < points.size(); first += kPiece) {
-    const std::size_t last = std::min(first + kPiece, points.size() - 1);
-    painter.drawPolyline(points.data() + first, static_cast<int>(last - first + 1));
-  }
-}
-
-void PaintCurve(QPainter& painter, const Surface& surface, const Stroke& stroke, const QRectF& area, double weight) {
+/// The points of a curve that matter at this size.
+const std::vector<QPointF>& ThinnedPoints(ThinnedCurve& curve, const Surface& surface, const Stroke& stroke,
+                                          const QRectF& area) {
   const Mapping map(stroke.scale, area);
-  ThinnedCurve curve;
   const Point* const points = surface.points.data() + stroke.first;
   for (std::size_t i = 0; i < stroke.count; ++i) curve.Add(map(points[i]));
-  painter.setPen(QPen(LiteralColour(stroke.colour), kCurveWeight * weight, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
-  StrokePieces(painter, curve.Finish());
+  return curve.Finish();
 }
+
+bool IsCurve(const Stroke& stroke) { return stroke.count >= 2 && !IsGridLine(stroke); }
 
 }  // namespace
 
@@ -158,15 +151,28 @@ void PaintSurface(QPainter& painter, const Surface& surface, const QRectF& area,
   PaintGrid(painter, surface, area, weight);
   painter.setRenderHint(QPainter::Antialiasing);
   for (const Stroke& stroke : surface.strokes) {
-    if (stroke.count >= 2 && !IsGridLine(stroke)) PaintCurve(painter, surface, stroke, area, weight);
+    if (!IsCurve(stroke)) continue;
+    ThinnedCurve curve;
+    const std::vector<QPointF>& points = ThinnedPoints(curve, surface, stroke, area);
+    painter.setPen(QPen(LiteralColour(stroke.colour), kCurveWeight * weight, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(points.data(), static_cast<int>(points.size()));
   }
   painter.restore();
 }
 
-QImage SurfaceImage(const Surface& surface, const QSize& size) {
+QImage SurfaceImage(const Surface& surface, const QSize& size, double weight) {
   QImage image(size, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  const QRectF area(QPointF(), size);
   QPainter painter(&image);
-  PaintSurface(painter, surface, QRectF(QPointF(), size));
+  PaintGrid(painter, surface, area, weight);
+  painter.end();
+  CurveRaster raster(image);
+  for (const Stroke& stroke : surface.strokes) {
+    if (!IsCurve(stroke)) continue;
+    ThinnedCurve curve;
+    raster.Draw(ThinnedPoints(curve, surface, stroke, area), kCurveWeight * weight, LiteralColour(stroke.colour).rgb());
+  }
   return image;
 }
 
@@ -215,10 +221,7 @@ void PlotWidget::paintEvent(QPaintEvent* /*event*/) {
   const double ratio = devicePixelRatioF();
   const QSize pixels = (QSizeF(size()) * ratio).toSize();
   if (picture_.size() != pixels || painted_ != surface_.revision) {
-    picture_ = QPixmap(pixels);
-    QPainter painter(&picture_);
-    PaintSurface(painter, surface_, QRectF(QPointF(), pixels), ratio);
-    painter.end();
+    picture_ = QPixmap::fromImage(SurfaceImage(surface_, pixels, ratio));
     picture_.setDevicePixelRatio(ratio);
     painted_ = surface_.revision;
   }

@@ -13,12 +13,12 @@ class QPainter;
 
 namespace zefirondo::screens {
 
-/// Paints all that stands on a surface into a rectangle of the painter's device, one unit a pixel. A hairline is
-/// `weight` pixels wide and a curve a little more.
+/// Paints all that stands on a surface into a rectangle of the painter's device, as lines. A hairline is `weight`
+/// units of the painter wide and a curve a little more.
 void PaintSurface(QPainter& painter, const Surface& surface, const QRectF& area, double weight = 1.0);
 
-/// The picture of a surface, `size` pixels large.
-[[nodiscard]] QImage SurfaceImage(const Surface& surface, const QSize& size);
+/// The picture of a surface, `size` pixels large, with hairlines of `weight` pixels.
+[[nodiscard]] QImage SurfaceImage(const Surface& surface, const QSize& size, double weight = 1.0);
 
 class PlotWidget : public QWidget {
  public:
