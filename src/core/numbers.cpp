@@ -177,7 +177,9 @@ std::string PlainNumber(double value) {
   const auto end =
       std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::general, kSignificantDigits)
           .ptr;
-  return {buffer.data(), end};
+  std::string text(buffer.data(), end);
+  std::replace(text.begin(), text.end(), 'e', 'E');
+  return text;
 }
 
 std::string FormatTwoDecimals(double value) {

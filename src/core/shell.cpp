@@ -8,6 +8,7 @@
 #include "core/focus.h"
 #include "core/numbers.h"
 #include "core/run_time_error.h"
+#include "core/text.h"
 #include "core/window_life.h"
 
 #ifndef ZEFIRONDO_INSTALLED_PROGRAM
@@ -19,6 +20,7 @@ namespace {
 
 constexpr double kNarrowestScreen = 15360;  // twips: 1024 pixels
 constexpr double kDefaultPortArea = 0.003525652;
+constexpr std::size_t kLongestCaption = 1000;  // characters
 constexpr double kFreeAirFactor = 1.400823478;
 
 void SetOptionDefaults(ProjectState& state) {
@@ -317,7 +319,9 @@ void UndoDataImport(Program& program) {
 
 void ShowModelName(Program& program) {
   Sheet& sheet = program.windows.frmthsm;
-  const std::string caption = program.Text(198) + "-" + program.state.txtmodello + "-";
+  // No caption is longer than this: a file may hold a line of any length.
+  const std::string model = program.state.txtmodello.substr(0, ByteOffset(program.state.txtmodello, kLongestCaption));
+  const std::string caption = program.Text(198) + "-" + model + "-";
   for (Control* const frame : {&sheet.fragenerale, &sheet.frathsm, &sheet.fradim, &sheet.frabox}) {
     AssignText(program, *frame, caption);
   }

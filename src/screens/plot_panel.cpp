@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QResizeEvent>
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <utility>
@@ -74,17 +75,22 @@ void PlotPanel::PaintValues(QPainter& painter) const {
   }
 }
 
+/// The decades are written first; another frequency is left out where it would run into its neighbour.
 void PlotPanel::PaintFrequencies(QPainter& painter) const {
   const Scale& scale = surface_.scale;
-  double free_from = 0.0;
-  for (const FrequencyMark& mark : marks_) {
-    const QString text = QString::fromLatin1(mark.text);
-    const double half = fontMetrics().horizontalAdvance(text) / 2.0;
-    const double x = plot_->x() + (20 * std::log10(mark.hertz) - shift_ - scale.left) / scale.width * plot_->width();
-    if (x - half < free_from) continue;
-    free_from = x + half + kLabelGap / 2.0;
-    painter.drawText(QRectF(x - half, plot_->geometry().bottom() + kLabelGap, 2 * half + 1, fontMetrics().height()),
-                     Qt::AlignCenter, text);
+  std::vector<QRectF> taken;
+  for (const bool decades : {true, false}) {
+    for (const FrequencyMark& mark : marks_) {
+      if ((mark.text[0] == '1') != decades) continue;
+      const QString text = QString::fromLatin1(mark.text);
+      const double half = fontMetrics().horizontalAdvance(text) / 2.0 + kLabelGap / 2.0;
+      const double x = plot_->x() + (20 * std::log10(mark.hertz) - shift_ - scale.left) / scale.width * plot_->width();
+      const QRectF place(x - half, plot_->geometry().bottom() + kLabelGap, 2 * half, fontMetrics().height());
+      const bool free = std::none_of(taken.begin(), taken.end(), [&](const QRectF& r) { return r.intersects(place); });
+      if (!free || x < plot_->x() - 1) continue;
+      taken.push_back(place);
+      painter.drawText(place, Qt::AlignCenter, text);
+    }
   }
 }
 

@@ -5,6 +5,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QStackedWidget>
 
 #include "core/events.h"
@@ -18,6 +19,7 @@ using namespace zefirondo::screens;
 
 namespace {
 
+constexpr int kButtonFrame = 6;         // pixels
 constexpr QSize kSmallArea(1024, 680);  // what a frame of 1024 x 768 leaves to its windows
 
 void AddRows() {
@@ -57,6 +59,13 @@ bool ShowsText(const QWidget& widget) {
   return (label != nullptr && !label->wordWrap()) || qobject_cast<const QAbstractButton*>(&widget) != nullptr;
 }
 
+/// A button may be smaller than its style likes, as long as its words have room.
+int WidthNeeded(const QWidget& widget) {
+  const auto* const button = qobject_cast<const QPushButton*>(&widget);
+  if (button == nullptr) return widget.sizeHint().width();
+  return button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width() + kButtonFrame;
+}
+
 /// What is wrong with the places of the widgets below a parent; empty when nothing is.
 QStringList Flaws(const QWidget& parent) {
   QStringList flaws;
@@ -68,8 +77,7 @@ QStringList Flaws(const QWidget& parent) {
   for (const QWidget* const widget : shown) {
     const QString name = widget->objectName() + '/' + widget->property("text").toString();
     if (!parent.rect().contains(widget->geometry())) flaws.append("outside: " + name);
-    const bool small_button = qobject_cast<const QAbstractButton*>(widget) != nullptr && widget->width() <= 22;
-    if (ShowsText(*widget) && !small_button && widget->width() < widget->sizeHint().width()) flaws.append("cut: " + name);
+    if (ShowsText(*widget) && widget->width() < WidthNeeded(*widget)) flaws.append("cut: " + name);
     for (const QWidget* const other : shown) {
       if (other != widget && other->geometry().intersects(widget->geometry())) {
         flaws.append("covered: " + name + " by " + other->objectName());

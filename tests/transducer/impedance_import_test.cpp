@@ -150,7 +150,7 @@ class ImpedanceImport : public testing::Test {
     desk.BeginImpedance();
     desk.sheet.mnuimporta.enabled = true;  // as after the data of the transducer
     desk.Tab("par");
-    desk.Set("txtrvc", "5");
+    desk.state.txtrvc = "5";
     desk.TakeOut();
   }
   std::string Import(const std::filesystem::path& file) {

@@ -2,12 +2,14 @@
 #pragma once
 
 #include "core/controls.h"
+#include "core/windows/frequency_labels.h"
 
 namespace zefirondo {
 
 struct PhaseGraph {
   Window window;
   Surface surface;
+  FrequencyLabels frequencies;
   Control lbltitolo, pctgrafFase, txtposFase, lblfrequenza;
   Control lbl180, lbl135, lbl90, lbl45, lbl0, lbl_45, lbl_90, lbl_135, lbl_180;
   Control fraleggenda, Label1, Label2, Label3;

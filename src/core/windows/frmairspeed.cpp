@@ -50,6 +50,9 @@ AirSpeedGraph::AirSpeedGraph(ProjectState& state) {
   surface.twips_width = 8850;
   surface.twips_height = 6015;
   DescribeWindow(*this, state, kRows);
+  frequencies.Describe(window, state,
+                       {"Label10", "Label20", "Label30", "Label40", "Label50", "Label100", "Label200", "Label300",
+                        "Label400", "Label1k"});
 }
 
 }  // namespace zefirondo

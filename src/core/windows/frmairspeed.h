@@ -2,12 +2,14 @@
 #pragma once
 
 #include "core/controls.h"
+#include "core/windows/frequency_labels.h"
 
 namespace zefirondo {
 
 struct AirSpeedGraph {
   Window window;
   Surface surface;
+  FrequencyLabels frequencies;
   Control lbltitolo, pctgrafair, pctvalori, txtpos, lbldb, lblfrequenza;
   Control lblairspeed2, Line2, lblairspeed1, Line1;
   Control lblpot, txtpot, lblrms, cmdcalc;

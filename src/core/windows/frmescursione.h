@@ -2,12 +2,14 @@
 #pragma once
 
 #include "core/controls.h"
+#include "core/windows/frequency_labels.h"
 
 namespace zefirondo {
 
 struct ExcursionGraph {
   Window window;
   Surface surface;
+  FrequencyLabels frequencies;
   Control lbltitolo, pctgrafex, pctvalori, txtpos, lbldb, lblfrequenza, lblescursione, Line1;
   Control lblpot, txtpot, lblrms, cmdcalc;
 

@@ -17,6 +17,9 @@ const std::vector<ControlRow<Form>> kRows{
     {Label, CONTROL(lbl3dB), {.caption = "-3dB @"}},
     {TextBox, CONTROL(txtF3dB), {.locked = true, .back = colour::kGrey}},
     {Label, CONTROL(lblhz), {.caption = "Hz"}},
+    {Picture, CONTROL(Line1), {}},
+    {Picture, CONTROL(Line2), {}},
+    {Picture, CONTROL(Line3), {}},
     {Label, CONTROL(lblovl1), {.caption = "Trk1"}},
     {Button, CONTROL(cmdset1), {}},
     {Label, CONTROL(lblset1), {.caption = "Set"}},
@@ -71,6 +74,9 @@ BoxResponse::BoxResponse(ProjectState& state) {
   window.design_top = 2900;
   window.values = {{"OverlayFreq", &OverlayFreq}, {"OverlayDb", &OverlayDb}, {"CalibrationDb", &CalibrationDb}};
   DescribeWindow(*this, state, kRows);
+  frequencies.Describe(window, state,
+                       {"Label10", "Label20", "Label30", "Label40", "Label50", "Label100", "Label200", "Label300",
+                        "Label400", "Label1k", "lbl2k", "lbl3k", "lbl4k", "lbl5k"});
   pctgraf.surface = &surface;
   pctgraf.readout = &txtpos;
   surface.twips_width = 8850;

@@ -2,14 +2,17 @@
 #pragma once
 
 #include "core/controls.h"
+#include "core/windows/frequency_labels.h"
 
 namespace zefirondo {
 
 struct BoxResponse {
   Window window;
   Surface surface;
+  FrequencyLabels frequencies;
   Control lblnomegraf, pctgraf, pctvalori, txtpos, lblfrequenza;
   Control lbl3dB, txtF3dB, lblhz;
+  Control Line1, Line2, Line3;  // around the stored traces
   Control lblovl1, cmdset1, lblset1, chkonoff1, lblonoff1;
   Control lblovl2, cmdset2, lblset2, chkonoff2, lblonoff2;
   Control fraleggenda, lblcassa, lblfiltro, lblimport, lblsomma;

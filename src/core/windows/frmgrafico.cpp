@@ -37,6 +37,9 @@ ImpedanceGraph::ImpedanceGraph(ProjectState& state) {
   surface.twips_width = 12690;
   surface.twips_height = 6975;
   DescribeWindow(*this, state, kRows);
+  frequencies.Describe(window, state,
+                       {"Label10", "Label20", "Label30", "Label40", "Label50", "Label100", "Label200", "Label300",
+                        "Label400", "Label1k", "Label2k", "Label3k", "Label4k", "Label5k", "Label10k", "Label20k"});
 }
 
 }  // namespace zefirondo

@@ -2,12 +2,14 @@
 #pragma once
 
 #include "core/controls.h"
+#include "core/windows/frequency_labels.h"
 
 namespace zefirondo {
 
 struct SplMaxGraph {
   Window window;
   Surface surface;
+  FrequencyLabels frequencies;
   Control lblnomegrafspl, pctgrafspl, pctvalori, txtpos, lbldb, lblfrequenzaspl, lblpot, txtpot, lblrms, cmdcalc;
 
   Control mnufile, mnuchiudi;
