@@ -43,7 +43,9 @@ bool HasCharacter(const QKeyEvent& event) {
 bool Types(const QKeyEvent& event) { return HasCharacter(event) && !WithCommand(event); }
 
 /// A mnemonic that leads nowhere at the moment: a field would take it for its letter.
-bool IsIdleMnemonic(const QKeyEvent& event) { return HasCharacter(event) && (event.modifiers() & Qt::AltModifier) != 0; }
+bool IsIdleMnemonic(const QKeyEvent& event) {
+  return HasCharacter(event) && (event.modifiers() & Qt::AltModifier) != 0;
+}
 
 bool OpensList(const QKeyEvent& event) {
   switch (event.key()) {
@@ -126,7 +128,9 @@ void Binder::ConnectSignals(Pair& pair) {
 }
 
 void Binder::Show() {
-  for (const std::unique_ptr<Pair>& pair : pairs_) ShowControl(*pair, stage_.program);
+  // A page that comes into view is laid out at once, by what its widgets show then.
+  for (const std::unique_ptr<Pair>& pair : pairs_) ShowContent(*pair, stage_.program);
+  for (const std::unique_ptr<Pair>& pair : pairs_) ShowState(*pair);
   for (const std::function<void()>& follower : followers_) follower();
 }
 

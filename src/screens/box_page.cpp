@@ -36,9 +36,8 @@ QWidget* MakePictures(Binder& binder, std::array<Control, 2>& controls, DrawPict
 QWidget* MakeProjectData(Binder& binder, Sheet& sheet, QWidget* parent) {
   QGroupBox* const group = MakeGroup(binder, sheet.fradatiprog, parent);
   Form form(binder, group, new QGridLayout(group));
-  for (Control* const field :
-       {&sheet.cmbnumdriver, &sheet.txtvolnetto, &sheet.txtingombro, &sheet.txtvoloccu, &sheet.txtvolappa, &sheet.txtfb,
-        &sheet.txtfstrasdu, &sheet.txtfreriso, &sheet.cmbk}) {
+  for (Control* const field : {&sheet.cmbnumdriver, &sheet.txtvolnetto, &sheet.txtingombro, &sheet.txtvoloccu,
+                               &sheet.txtvolappa, &sheet.txtfb, &sheet.txtfstrasdu, &sheet.txtfreriso, &sheet.cmbk}) {
     form.Row(*field);
   }
   form.Fill();

@@ -16,7 +16,7 @@ constexpr int kNumberWidth = 11;  // digits: the longest number is "123.456E-06"
 constexpr int kFieldFrame = 14;   // pixels of frame and margins around a field's text
 constexpr int kComboArrow = 16;   // pixels that the arrow of a combo box needs more
 constexpr int kFieldGap = 6;
-constexpr int kNameWidth = 34;    // average characters of the longest name that shows whole
+constexpr int kNameWidth = 34;  // average characters of the longest name that shows whole
 
 int TextWidth(const QWidget& widget, const QString& text) { return widget.fontMetrics().horizontalAdvance(text); }
 

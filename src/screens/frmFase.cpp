@@ -14,7 +14,7 @@ constexpr double kStepOfLevels = 45;        // degrees
 
 /// The levels stand beside their lines, from the top down.
 std::vector<StripLabel> Levels(const PhaseGraph& form) {
-  const std::array labels{&form.lbl180, &form.lbl135,  &form.lbl90,   &form.lbl45,  &form.lbl0,
+  const std::array labels{&form.lbl180, &form.lbl135, &form.lbl90,   &form.lbl45,  &form.lbl0,
                           &form.lbl_45, &form.lbl_90, &form.lbl_135, &form.lbl_180};
   std::vector<StripLabel> levels;
   for (const Control* const label : labels) {
@@ -29,7 +29,8 @@ void BuildPhaseGraph(Binder& binder, Window& /*window*/, QWidget* content) {
   PhaseGraph& form = binder.stage().program.windows.frmFase;
   auto* const column = new QVBoxLayout(content);
   PlotPanel* const panel =
-      AddGraph(binder, content, *column, {form.lbltitolo, form.pctgrafFase, form.lblfrequenza, FrequencyMarks(kHighestFrequency)});
+      AddGraph(binder, content, *column,
+               {form.lbltitolo, form.pctgrafFase, form.lblfrequenza, FrequencyMarks(kHighestFrequency)});
   panel->SetFixedValues(Levels(form));
   auto* const row = new QHBoxLayout;
   auto* const traces = new QGridLayout;

@@ -13,9 +13,9 @@ constexpr double kStepOfLevels = 45;  // degrees
 constexpr double kHighestLevel = 180;
 
 std::vector<FrequencyMark> Marks() {
-  return {{10, "10"},     {20, "20"},   {30, "30"},   {40, "40"},   {50, "50"},   {60, "60"},   {70, "70"},
-          {80, "80"},     {90, "90"},   {100, "100"}, {200, "200"}, {300, "300"}, {400, "400"}, {1000, "1k"},
-          {2000, "2k"},   {3000, "3k"}, {5000, "5k"}, {7000, "7k"}, {10000, "10k"}, {20000, "20k"}};
+  return {{10, "10"},   {20, "20"},   {30, "30"},   {40, "40"},   {50, "50"},     {60, "60"},    {70, "70"},
+          {80, "80"},   {90, "90"},   {100, "100"}, {200, "200"}, {300, "300"},   {400, "400"},  {1000, "1k"},
+          {2000, "2k"}, {3000, "3k"}, {5000, "5k"}, {7000, "7k"}, {10000, "10k"}, {20000, "20k"}};
 }
 
 std::vector<StripLabel> Levels() {
@@ -31,8 +31,8 @@ std::vector<StripLabel> Levels() {
 void BuildPhaseOffsetTool(Binder& binder, Window& /*window*/, QWidget* content) {
   PhaseOffsetTool& form = binder.stage().program.windows.frmFaseSh;
   auto* const column = new QVBoxLayout(content);
-  PlotPanel* const panel =
-      AddGraph(binder, content, *column, {form.lbltitolo, form.pctgrafFase, form.lblfrequenza, Marks(), nullptr, kShift});
+  PlotPanel* const panel = AddGraph(binder, content, *column,
+                                    {form.lbltitolo, form.pctgrafFase, form.lblfrequenza, Marks(), nullptr, kShift});
   panel->SetFixedValues(Levels());
   auto* const row = new QHBoxLayout;
   auto* const traces = new QGridLayout;

@@ -53,9 +53,8 @@ void TieKey(Binder& binder, Control& control, QWidget* content, Qt::Key key) {
   for (const Qt::KeyboardModifiers modifiers : {Qt::KeyboardModifiers(), Qt::KeyboardModifiers(Qt::KeypadModifier)}) {
     auto* const shortcut = new QShortcut(QKeyCombination(modifiers, key), content);
     shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-    QObject::connect(shortcut, &QShortcut::activated, content, [&binder, &control] {
-      binder.stage().Act([&] { Click(binder.stage().program, control); });
-    });
+    QObject::connect(shortcut, &QShortcut::activated, content,
+                     [&binder, &control] { binder.stage().Act([&] { Click(binder.stage().program, control); }); });
   }
 }
 

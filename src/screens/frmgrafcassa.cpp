@@ -62,7 +62,8 @@ QLayout* MakeButtons(Binder& binder, BoxResponse& form, QWidget* parent) {
 void BuildBoxResponse(Binder& binder, Window& /*window*/, QWidget* content) {
   BoxResponse& form = binder.stage().program.windows.frmgrafcassa;
   auto* const column = new QVBoxLayout(content);
-  AddGraph(binder, content, *column, {form.lblnomegraf, form.pctgraf, form.lblfrequenza, FrequencyMarks(kHighestFrequency)});
+  AddGraph(binder, content, *column,
+           {form.lblnomegraf, form.pctgraf, form.lblfrequenza, FrequencyMarks(kHighestFrequency)});
   auto* const row = new QHBoxLayout;
   row->addLayout(MakeTraces(binder, form, content));
   row->addStretch(1);

@@ -17,7 +17,8 @@ void BuildImpedanceGraph(Binder& binder, Window& /*window*/, QWidget* content) {
   auto* const row = new QHBoxLayout(content);
   row->addWidget(MakeWidget(binder, form.Text1, content));
   auto* const column = new QVBoxLayout;
-  AddGraph(binder, content, *column, {form.lblnomegraf, form.pctgrafimp, form.lblfrequenza, FrequencyMarks(kHighestFrequency)});
+  AddGraph(binder, content, *column,
+           {form.lblnomegraf, form.pctgrafimp, form.lblfrequenza, FrequencyMarks(kHighestFrequency)});
   row->addLayout(column, 1);
 }
 

@@ -15,8 +15,9 @@ constexpr double kHighestFrequency = 2000;  // Hz
 void BuildSplGraph(Binder& binder, Window& /*window*/, QWidget* content) {
   SplGraph& form = binder.stage().program.windows.frmspl;
   auto* const column = new QVBoxLayout(content);
-  AddGraph(binder, content, *column,
-           {form.lblnomegrafspl, form.pctgrafspl, form.lblfrequenzaspl, FrequencyMarks(kHighestFrequency), &form.lbldb});
+  AddGraph(
+      binder, content, *column,
+      {form.lblnomegrafspl, form.pctgrafspl, form.lblfrequenzaspl, FrequencyMarks(kHighestFrequency), &form.lbldb});
   auto* const row = new QHBoxLayout;
   auto* const traces = new QGridLayout;
   AddSlots(binder, content, *traces, 0, form);

@@ -15,8 +15,9 @@ constexpr double kHighestFrequency = 2000;  // Hz
 void BuildSplMaxGraph(Binder& binder, Window& /*window*/, QWidget* content) {
   SplMaxGraph& form = binder.stage().program.windows.frmsplMax;
   auto* const column = new QVBoxLayout(content);
-  AddGraph(binder, content, *column,
-           {form.lblnomegrafspl, form.pctgrafspl, form.lblfrequenzaspl, FrequencyMarks(kHighestFrequency), &form.lbldb});
+  AddGraph(
+      binder, content, *column,
+      {form.lblnomegrafspl, form.pctgrafspl, form.lblfrequenzaspl, FrequencyMarks(kHighestFrequency), &form.lbldb});
   auto* const row = new QHBoxLayout;
   row->addStretch(1);
   row->addLayout(MakePower(binder, content, form.lblpot, form.txtpot, form.lblrms, form.cmdcalc));

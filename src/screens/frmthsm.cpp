@@ -87,7 +87,8 @@ void BuildParametersPage(Binder& binder, Sheet& sheet, QStackedWidget& pages) {
   Page page = MakePage(binder, sheet.frathsm, pages);
   auto* const grid = new QGridLayout;
   Form inputs(binder, page.widget, grid, 0);
-  for (Control* const field : {&sheet.txtzmax, &sheet.txtfs, &sheet.txtrvc, &sheet.txtqmesin, &sheet.txtbw, &sheet.txtbl}) {
+  for (Control* const field :
+       {&sheet.txtzmax, &sheet.txtfs, &sheet.txtrvc, &sheet.txtqmesin, &sheet.txtbw, &sheet.txtbl}) {
     inputs.Row(*field);
   }
   inputs.Row(sheet.lbld, sheet.txtd);

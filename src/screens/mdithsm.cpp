@@ -63,8 +63,7 @@ BuildContent ContentOf(const Window& window) {
 
 }  // namespace
 
-MainFrameView::MainFrameView(Program& program)
-    : stage_(program), area_(new QMdiArea), menu_bar_(new MenuBar(stage_)) {
+MainFrameView::MainFrameView(Program& program) : stage_(program), area_(new QMdiArea), menu_bar_(new MenuBar(stage_)) {
   setObjectName(QStringLiteral("mdithsm"));
   area_->setFocusPolicy(Qt::NoFocus);
   area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
@@ -111,7 +110,10 @@ void MainFrameView::closeEvent(QCloseEvent* event) {
 }
 
 bool MainFrameView::eventFilter(QObject* object, QEvent* event) {
-  if (object == area_ && event->type() == QEvent::Resize) NoteSize();
+  if (object == area_ && event->type() == QEvent::Resize) {
+    NoteSize();
+    for (const auto& [window, view] : views_) view->KeepInside(area_->size());
+  }
   return QMainWindow::eventFilter(object, event);
 }
 
@@ -211,7 +213,8 @@ void MainFrameView::SubWindowActivated(QMdiSubWindow* activated) {
 void MainFrameView::FocusChanged(QWidget* now) {
   if (now == nullptr || now->window() != this || menu_bar_->isAncestorOf(now) || now == menu_bar_) return;
   if (!stage_.Listening() || now == FocusTarget()) return;
-  QMetaObject::invokeMethod(this, [this] { stage_.Refresh(); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      this, [this] { stage_.Refresh(); }, Qt::QueuedConnection);
 }
 
 }  // namespace zefirondo::screens

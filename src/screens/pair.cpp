@@ -135,24 +135,6 @@ void ShowText(Pair& pair, const Program& program) {
   }
 }
 
-void ShowState(Pair& pair) {
-  const Control& control = *pair.control;
-  QWidget& widget = *pair.widget;
-  if (auto* const pages = qobject_cast<QStackedWidget*>(widget.parentWidget())) {
-    if (control.visible && pages->currentWidget() != &widget) pages->setCurrentWidget(&widget);
-  } else if (widget.isHidden() == control.visible) {
-    widget.setVisible(control.visible);
-  }
-  if (widget.isEnabledTo(widget.parentWidget()) != control.enabled) widget.setEnabled(control.enabled);
-  if (QLineEdit* const line = pair.Line()) {
-    if (line->isReadOnly() != control.locked) line->setReadOnly(control.locked);
-  } else if (auto* const edit = qobject_cast<QPlainTextEdit*>(&widget)) {
-    if (edit->isReadOnly() != control.locked) edit->setReadOnly(control.locked);
-  } else if (auto* const button = qobject_cast<QAbstractButton*>(&widget); button != nullptr && button->isCheckable()) {
-    if (button->isChecked() != control.checked) button->setChecked(control.checked);
-  }
-}
-
 void ShowLooks(Pair& pair) {
   const Control& control = *pair.control;
   if (pair.tip != control.tip) {
@@ -183,8 +165,25 @@ QLineEdit* Pair::Line() const {
   return qobject_cast<QLineEdit*>(widget);
 }
 
-void ShowControl(Pair& pair, const Program& program) {
-  ShowState(pair);
+void ShowState(Pair& pair) {
+  const Control& control = *pair.control;
+  QWidget& widget = *pair.widget;
+  if (auto* const pages = qobject_cast<QStackedWidget*>(widget.parentWidget())) {
+    if (control.visible && pages->currentWidget() != &widget) pages->setCurrentWidget(&widget);
+  } else if (widget.isHidden() == control.visible) {
+    widget.setVisible(control.visible);
+  }
+  if (widget.isEnabledTo(widget.parentWidget()) != control.enabled) widget.setEnabled(control.enabled);
+  if (QLineEdit* const line = pair.Line()) {
+    if (line->isReadOnly() != control.locked) line->setReadOnly(control.locked);
+  } else if (auto* const edit = qobject_cast<QPlainTextEdit*>(&widget)) {
+    if (edit->isReadOnly() != control.locked) edit->setReadOnly(control.locked);
+  } else if (auto* const button = qobject_cast<QAbstractButton*>(&widget); button != nullptr && button->isCheckable()) {
+    if (button->isChecked() != control.checked) button->setChecked(control.checked);
+  }
+}
+
+void ShowContent(Pair& pair, const Program& program) {
   ShowText(pair, program);
   if (pair.control->IsField()) {
     ShowWords(pair.words, pair.control->label, *pair.control);

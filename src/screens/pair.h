@@ -30,8 +30,11 @@ struct Pair {
   [[nodiscard]] QLineEdit* Line() const;
 };
 
-/// Brings a widget in line with its control.
-void ShowControl(Pair& pair, const Program& program);
+/// Brings what a widget shows in line with its control: words, list, colours.
+void ShowContent(Pair& pair, const Program& program);
+
+/// Brings in line whether it is shown, and what can be done with it.
+void ShowState(Pair& pair);
 
 /// The text that a field shows, as the program keeps texts.
 [[nodiscard]] std::string FieldText(const Pair& pair);

@@ -164,7 +164,8 @@ PictureWidget::PictureWidget(DrawPicture draw, const QSize& size, QWidget* paren
 void PictureWidget::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  draw_(painter, QRectF(rect()), palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+  draw_(painter, QRectF(rect()),
+        palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
 }
 
 }  // namespace zefirondo::screens

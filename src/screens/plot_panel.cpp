@@ -13,15 +13,28 @@
 namespace zefirondo::screens {
 namespace {
 
-constexpr int kStripWidth = 41;   // 615 twips
+constexpr int kStripWidth = 41;  // 615 twips
 constexpr int kBorder = 1;
 constexpr int kLabelGap = 4;
-constexpr int kRightRoom = 14;    // half of the last frequency's words
+constexpr int kRightRoom = 14;  // half of the last frequency's words
 constexpr double kTwipsPerPixel = 15.0;
 
 constexpr std::array kMarks = std::to_array<FrequencyMark>({
-    {10, "10"}, {20, "20"}, {30, "30"}, {40, "40"}, {50, "50"}, {100, "100"}, {200, "200"}, {300, "300"},
-    {400, "400"}, {1000, "1k"}, {2000, "2k"}, {3000, "3k"}, {4000, "4k"}, {5000, "5k"}, {10000, "10k"},
+    {10, "10"},
+    {20, "20"},
+    {30, "30"},
+    {40, "40"},
+    {50, "50"},
+    {100, "100"},
+    {200, "200"},
+    {300, "300"},
+    {400, "400"},
+    {1000, "1k"},
+    {2000, "2k"},
+    {3000, "3k"},
+    {4000, "4k"},
+    {5000, "5k"},
+    {10000, "10k"},
     {20000, "20k"},
 });
 
@@ -36,7 +49,11 @@ std::vector<FrequencyMark> FrequencyMarks(double highest) {
 }
 
 PlotPanel::PlotPanel(const Surface& surface, std::vector<FrequencyMark> marks, double shift, QWidget* parent)
-    : QWidget(parent), surface_(surface), marks_(std::move(marks)), shift_(shift), plot_(new PlotWidget(surface, this)) {
+    : QWidget(parent),
+      surface_(surface),
+      marks_(std::move(marks)),
+      shift_(shift),
+      plot_(new PlotWidget(surface, this)) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 

@@ -16,9 +16,9 @@
 namespace zefirondo::screens {
 namespace {
 
-constexpr double kCurveWeight = 1.6;   // against a hairline of 1
-constexpr double kTolerance = 0.08;    // pixels that a thinned curve may stray from the full one
-constexpr double kFarOutside = 4.0;    // plot heights beyond which a point need not be exact
+constexpr double kCurveWeight = 1.6;  // against a hairline of 1
+constexpr double kTolerance = 0.08;   // pixels that a thinned curve may stray from the full one
+constexpr double kFarOutside = 4.0;   // plot heights beyond which a point need not be exact
 const QColor kGridColour(150, 150, 150);
 
 struct Mapping {
@@ -154,7 +154,8 @@ void PaintSurface(QPainter& painter, const Surface& surface, const QRectF& area,
     if (!IsCurve(stroke)) continue;
     ThinnedCurve curve;
     const std::vector<QPointF>& points = ThinnedPoints(curve, surface, stroke, area);
-    painter.setPen(QPen(LiteralColour(stroke.colour), kCurveWeight * weight, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(
+        QPen(LiteralColour(stroke.colour), kCurveWeight * weight, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPolyline(points.data(), static_cast<int>(points.size()));
   }
   painter.restore();

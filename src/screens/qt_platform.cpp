@@ -166,8 +166,8 @@ void QtPlatform::ShowHelp(const std::filesystem::path& file) {
   if (std::filesystem::exists(page, ignored) && QDesktopServices::openUrl(QUrl::fromLocalFile(FromPath(page)))) return;
   const bool italian = language_ == Language::Italian;
   const std::string missing = italian ? "La guida non è stata trovata: " : "The help was not found: ";
-  ShowMessage({MessageIcon::Information, italian ? "Guida" : "Help", missing + FromQt(FromPath(page)),
-               MessageButtons::Ok});
+  ShowMessage(
+      {MessageIcon::Information, italian ? "Guida" : "Help", missing + FromQt(FromPath(page)), MessageButtons::Ok});
 }
 
 std::filesystem::path QtPlatform::InformationTool() {

@@ -43,8 +43,14 @@ void WindowView::Place(const QSize& room) {
   adjustSize();
   QPoint corner(static_cast<int>(window_.left / kTwipsPerPixel), static_cast<int>(window_.top / kTwipsPerPixel));
   if (window_.centred) corner = QPoint(room.width() - width(), room.height() - height()) / 2;
-  move(std::clamp(corner.x(), 0, std::max(0, room.width() - width())),
-       std::clamp(corner.y(), 0, std::max(0, room.height() - height())));
+  move(corner);
+  KeepInside(room);
+}
+
+void WindowView::KeepInside(const QSize& room) {
+  const QPoint furthest(std::max(0, room.width() - width()), std::max(0, room.height() - height()));
+  const QPoint place(std::clamp(x(), 0, furthest.x()), std::clamp(y(), 0, furthest.y()));
+  if (place != pos()) move(place);
 }
 
 void WindowView::closeEvent(QCloseEvent* event) {

@@ -26,6 +26,8 @@ class WindowView : public QMdiSubWindow {
 
   /// Gives the window its place when it is opened, inside what can be seen of the frame.
   void Place(const QSize& room);
+  /// Moves the window inside what can be seen, as far as it fits.
+  void KeepInside(const QSize& room);
   /// Forgets the place, since a window that is opened again gets its own one again.
   void Unplace() { placed_ = false; }
   [[nodiscard]] bool placed() const { return placed_; }

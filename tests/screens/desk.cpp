@@ -28,7 +28,7 @@ std::optional<std::filesystem::path> DeskPlatform::ChooseFile(const FileDialog& 
   return file;
 }
 
-Desk::Desk(Language language)
+Desk::Desk(Language language, const std::string& command_line)
     : platform(language), program(platform, language, folder.path().toStdString()) {
   ConnectProgram(program);
   frame = std::make_unique<MainFrameView>(program);
@@ -39,7 +39,7 @@ Desk::Desk(Language language)
   static_cast<void>(QTest::qWaitForWindowActive(frame.get()));
   QObject::connect(&answering_, &QTimer::timeout, frame.get(), [this] { AnswerBox(); });
   answering_.start(kLookForBoxes);
-  frame->stage().Act([this] { Start(program, ""); });
+  frame->stage().Act([&] { Start(program, command_line); });
 }
 
 Desk::~Desk() { answering_.stop(); }
@@ -72,7 +72,8 @@ void Desk::AnswerBox() {
 
 /// A desktop gives the frame back its activity when a message box closes; this screen does not.
 void Desk::Activate() const {
-  if (QApplication::activeModalWidget() == nullptr && !frame->isActiveWindow()) QApplication::setActiveWindow(frame.get());
+  if (QApplication::activeModalWidget() == nullptr && !frame->isActiveWindow())
+    QApplication::setActiveWindow(frame.get());
 }
 
 void Desk::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) const {
@@ -137,16 +138,16 @@ void Desk::FillWoofer() {
     Fill(QLatin1String(name), QLatin1String(text));
   }
   ClickTab(QStringLiteral("Dimensions"));
-  for (const auto& [name, text] : {Row{"txtforo", "230"}, Row{"txtprof", "110"}, Row{"txtlagmagne", "140"},
-                                   Row{"txtprofmag", "50"}, Row{"txtesterno", "260"}, Row{"txtspesbordo", "8"},
-                                   Row{"txtdiambob", "38"}}) {
+  for (const auto& [name, text] :
+       {Row{"txtforo", "230"}, Row{"txtprof", "110"}, Row{"txtlagmagne", "140"}, Row{"txtprofmag", "50"},
+        Row{"txtesterno", "260"}, Row{"txtspesbordo", "8"}, Row{"txtdiambob", "38"}}) {
     Fill(QLatin1String(name), QLatin1String(text));
   }
   Click(QStringLiteral("txtvolume"));
   ClickTab(QStringLiteral("Parameters"));
-  for (const auto& [name, text] : {Row{"txtfs", "35"}, Row{"txtrvc", "5.6"}, Row{"txtqmesin", "4.2"}, Row{"txtbl", "9.5"},
-                                   Row{"txtd", "210"}, Row{"txtqes", "0.45"}, Row{"txtqts", "0.41"},
-                                   Row{"txtmms", "0.038"}}) {
+  for (const auto& [name, text] :
+       {Row{"txtfs", "35"}, Row{"txtrvc", "5.6"}, Row{"txtqmesin", "4.2"}, Row{"txtbl", "9.5"}, Row{"txtd", "210"},
+        Row{"txtqes", "0.45"}, Row{"txtqts", "0.41"}, Row{"txtmms", "0.038"}}) {
     Fill(QLatin1String(name), QLatin1String(text));
   }
 }

@@ -42,7 +42,7 @@ struct ShownBox {
 
 class Desk {
  public:
-  explicit Desk(Language language = Language::English);
+  explicit Desk(Language language = Language::English, const std::string& command_line = {});
   ~Desk();
   Desk(const Desk&) = delete;
   Desk& operator=(const Desk&) = delete;

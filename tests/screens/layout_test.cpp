@@ -5,6 +5,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMdiArea>
 #include <QPushButton>
 #include <QStackedWidget>
 
@@ -37,8 +38,7 @@ void AddRows() {
 
 /// A desk with one window of the program open, all of its pages made visible in turn by the caller.
 struct OpenDesk : Desk {
-  OpenDesk(Language language, const QString& name)
-      : Desk(language), window(*program.FindWindow(name.toStdString())) {
+  OpenDesk(Language language, const QString& name) : Desk(language), window(*program.FindWindow(name.toStdString())) {
     frame->stage().Act([this] {
       RunEvent(program, [this] {
         program.state.BoxScaleTop = program.state.ImpScaleTop = program.state.SplScaleTop = 65;
@@ -83,8 +83,9 @@ QStringList Flaws(const QWidget& parent) {
         flaws.append("covered: " + name + " by " + other->objectName());
       }
     }
-    const bool compound = qobject_cast<const QComboBox*>(widget) != nullptr || widget->inherits("QAbstractScrollArea") ||
-                          widget->inherits("QTabBar") || dynamic_cast<const PlotWidget*>(widget) != nullptr;
+    const bool compound = qobject_cast<const QComboBox*>(widget) != nullptr ||
+                          widget->inherits("QAbstractScrollArea") || widget->inherits("QTabBar") ||
+                          dynamic_cast<const PlotWidget*>(widget) != nullptr;
     if (!compound) flaws += Flaws(*widget);
   }
   return flaws;
@@ -146,4 +147,23 @@ void LayoutTest::AWindowFitsASmallScreen() {
   const QSize size = desk.View(window.toStdString())->size();
   QVERIFY2(size.width() <= kSmallArea.width() && size.height() <= kSmallArea.height(),
            qPrintable(QStringLiteral("%1 x %2").arg(size.width()).arg(size.height())));
+}
+
+void LayoutTest::AnOpenedProjectIsLaidOut() {
+  Desk desk(Language::English, ZEFIRONDO_EXAMPLES "/maestrale-22.pro");
+  QCoreApplication::processEvents();
+  QVERIFY(desk.boxes.empty());
+  QVERIFY(desk.program.windows.frmthsm.HasTab("ref"));
+  QCOMPARE(Flaws(*desk.View("frmthsm")->ground()), QStringList());
+  QCOMPARE(Flaws(*desk.View("frmgrafcassa")->ground()), QStringList());
+  QCOMPARE(desk.FieldsThatDiffer(), QStringList());
+}
+
+void LayoutTest::AWindowStaysInsideAShrinkingFrame() {
+  OpenDesk desk(Language::English, QStringLiteral("frmgrafcassa"));
+  desk.frame->resize(900, 700);
+  QCoreApplication::processEvents();
+  const WindowView* const view = desk.View("frmgrafcassa");
+  QVERIFY(desk.frame->area()->rect().contains(view->geometry().topLeft()));
+  QVERIFY(view->geometry().right() <= desk.frame->area()->width());
 }

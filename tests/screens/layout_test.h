@@ -13,4 +13,6 @@ class LayoutTest : public QObject {
   void EveryControlIsOnTheScreen();
   void AWindowFitsASmallScreen_data();
   void AWindowFitsASmallScreen();
+  void AnOpenedProjectIsLaidOut();
+  void AWindowStaysInsideAShrinkingFrame();
 };

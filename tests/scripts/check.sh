@@ -2,8 +2,8 @@
 # Runs a script in a clean folder and compares what it prints with the lines kept beside it.
 # With RENEW=1 the kept lines are written anew: read the difference before you keep it.
 set -eu
-runner=$1
-script=$2
+runner=$(realpath "$1")
+script=$(realpath "$2")
 expected=${script%.zef}.out
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
