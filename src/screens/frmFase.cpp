@@ -17,6 +17,7 @@ std::vector<StripLabel> Levels(const PhaseGraph& form) {
   const std::array labels{&form.lbl180, &form.lbl135, &form.lbl90,   &form.lbl45,  &form.lbl0,
                           &form.lbl_45, &form.lbl_90, &form.lbl_135, &form.lbl_180};
   std::vector<StripLabel> levels;
+  levels.reserve(labels.size());
   for (const Control* const label : labels) {
     levels.push_back({*label->text, kStepOfLevels * static_cast<double>(levels.size())});
   }

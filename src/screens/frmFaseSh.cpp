@@ -8,9 +8,9 @@
 namespace zefirondo::screens {
 namespace {
 
-constexpr double kShift = 10;         // this plot has its curves at 20·log10(f) - 10
-constexpr double kStepOfLevels = 45;  // degrees
-constexpr double kHighestLevel = 180;
+constexpr double kShift = 10;      // this plot has its curves at 20·log10(f) - 10
+constexpr int kStepOfLevels = 45;  // degrees
+constexpr int kHighestLevel = 180;
 
 std::vector<FrequencyMark> Marks() {
   return {{10, "10"},   {20, "20"},   {30, "30"},   {40, "40"},   {50, "50"},     {60, "60"},    {70, "70"},
@@ -20,8 +20,8 @@ std::vector<FrequencyMark> Marks() {
 
 std::vector<StripLabel> Levels() {
   std::vector<StripLabel> levels;
-  for (double level = kHighestLevel; level >= -kHighestLevel; level -= kStepOfLevels) {
-    levels.push_back({std::to_string(static_cast<int>(level)), kHighestLevel - level});
+  for (int level = kHighestLevel; level >= -kHighestLevel; level -= kStepOfLevels) {
+    levels.push_back({std::to_string(level), static_cast<double>(kHighestLevel - level)});
   }
   return levels;
 }

@@ -16,7 +16,7 @@ constexpr int kLineOfText = 52;  // average characters after which a line of tex
 
 /// One place that controls stand on, the window or a group in it, with the form that is being laid out there.
 struct Ground {
-  QWidget* widget;
+  QWidget* widget = nullptr;
   std::unique_ptr<Form> form;
 };
 
