@@ -11,6 +11,7 @@ namespace {
 
 constexpr QSize kSampleSize(22, 10);
 constexpr int kSampleWidth = 2;
+constexpr int kDark = 128;  // the lightness below which a black line would not show
 constexpr int kSetButton = 22;
 
 QLabel* MakeCentred(Binder& binder, Control& control, QWidget* parent, bool bold) {
@@ -30,6 +31,7 @@ LineSample::LineSample(int colour, QWidget* parent) : QWidget(parent), colour_(L
 
 void LineSample::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
+  if (palette().color(QPalette::Window).lightness() < kDark) painter.fillRect(rect(), Qt::white);  // as the plot is
   painter.setPen(QPen(colour_, kSampleWidth));
   painter.drawLine(0, height() / 2, width(), height() / 2);
 }

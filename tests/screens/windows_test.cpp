@@ -213,3 +213,37 @@ void WindowsTest::MenusMoveNoFocus() {
   desk.Type("35");
   QCOMPARE(desk.Text("txtfs"), "35");
 }
+
+void WindowsTest::TheCalculatorTakesTheKeyboard() {
+  Desk desk;
+  desk.Key(Qt::Key_U, Qt::AltModifier);
+  QVERIFY(QApplication::activePopupWidget() != nullptr);
+  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_C);  // the capacitance comes first, then the calculator
+  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_C);
+  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+  QTRY_VERIFY(desk.View("frmcalcolatrice") != nullptr);
+  desk.Type("12+30");
+  desk.Key(Qt::Key_Return);
+  const Calculator& calculator = desk.program.windows.frmcalcolatrice;
+  QCOMPARE(desk.Text("Readout"), QString::fromStdString(*calculator.Readout.text));
+  QVERIFY2(desk.Text("Readout").startsWith("42"), qPrintable(desk.Text("Readout")));
+  desk.Key(Qt::Key_Escape);
+  QVERIFY(desk.Text("Readout").startsWith("0"));
+}
+
+void WindowsTest::AnOptionIsChosenByArrows() {
+  Desk desk;
+  desk.Key(Qt::Key_S, Qt::AltModifier);
+  QVERIFY(QApplication::activePopupWidget() != nullptr);
+  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_O);
+  QTRY_VERIFY(desk.View("frmopzioni") != nullptr);
+  QCOMPARE(desk.FocusName(), "optbiamp");
+  QVERIFY(desk.Find<QAbstractButton>("optbiamp")->isChecked());
+  desk.Key(Qt::Key_Down);
+  QVERIFY(!desk.Find<QAbstractButton>("optbiamp")->isChecked());
+  QVERIFY(desk.Find<QAbstractButton>("optparallelo")->isChecked());
+  QCOMPARE(desk.FocusName(), "optparallelo");
+  desk.Click("optserie", Qt::LeftButton, QPoint(8, 8));
+  QVERIFY(desk.Find<QAbstractButton>("optserie")->isChecked());
+  QVERIFY(!desk.Find<QAbstractButton>("optparallelo")->isChecked());
+}

@@ -20,4 +20,6 @@ class WindowsTest : public QObject {
   void TheSectionIsToggledByClickAndByKey();
   void AReopenedWindowTakesItsPlaceAgain();
   void MenusMoveNoFocus();
+  void TheCalculatorTakesTheKeyboard();
+  void AnOptionIsChosenByArrows();
 };
