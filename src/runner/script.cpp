@@ -505,8 +505,9 @@ void Script::AskCurve(Words words) {
   const double upper = static_cast<double>(curve.size() - 1);
   const double first = words.size() > 1 ? ReadIndex(words[1]) : 0.0;
   const double last = words.size() > 2 ? ReadIndex(words[2]) : (words.size() > 1 ? first : upper);
-  for (double i = first; i <= std::min(last, upper); ++i) {
-    const auto index = static_cast<std::size_t>(i);
+  const double end = std::min(last, upper);
+  if (first > end) return;
+  for (auto index = static_cast<std::size_t>(first); index <= static_cast<std::size_t>(end); ++index) {
     Print(words[0] + "(" + std::to_string(index) + ") = " + NumberText(curve[index]));
   }
 }

@@ -2,7 +2,6 @@
 
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "core/numbers.h"
 #include "core/window_life.h"
@@ -16,7 +15,7 @@ constexpr std::string_view kMark = ".";
 
 Calculator& Form(Program& program) { return program.windows.frmcalcolatrice; }
 
-void ShowReadout(Program& program, std::string text) { AssignText(program, Form(program).Readout, text); }
+void ShowReadout(Program& program, const std::string& text) { AssignText(program, Form(program).Readout, text); }
 
 void Restart(Program& program) {
   Calculator& form = Form(program);
@@ -62,7 +61,7 @@ void KeyDigit(Program& program, char digit) {
     text = text.substr(0, text.find(kMark)) + digit + std::string(kMark);
   }
   if (form.LastInput == "NEG") text.insert(0, "-");
-  ShowReadout(program, std::move(text));
+  ShowReadout(program, text);
   form.LastInput = "NUM";
 }
 
