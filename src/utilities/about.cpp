@@ -1,5 +1,8 @@
 #include "utilities/about.h"
 
+#include <string>
+
+#include "core/numbers.h"
 #include "core/window_life.h"
 
 #ifndef ZEFIRONDO_VERSION
@@ -9,11 +12,15 @@
 namespace zefirondo {
 namespace {
 
+/// Two words with one blank between them: some texts of the table bring theirs, and some do not.
+std::string Joined(const std::string& first, const std::string& second) {
+  return std::string(TrimBlanks(first)) + " " + second;
+}
+
 void frmAbout_Load(Program& program) {
   About& form = program.windows.frmAbout;
-  form.window.caption = program.Text(203) + " " + program.windows.mdithsm.window.caption;
-  if (program.Text(203).back() == ' ') form.window.caption = program.Text(203) + program.windows.mdithsm.window.caption;
-  AssignText(program, form.lblVersion, program.Text(209) + " " ZEFIRONDO_VERSION);
+  form.window.caption = Joined(program.Text(203), program.windows.mdithsm.window.caption);
+  AssignText(program, form.lblVersion, Joined(program.Text(209), ZEFIRONDO_VERSION));
 }
 
 void CloseAbout(Program& program) { CloseWindow(program, program.windows.frmAbout.window); }
