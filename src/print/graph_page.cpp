@@ -1,11 +1,11 @@
 #include "print/graph_page.h"
 
-#include <algorithm>
 #include <array>
 #include <span>
 
 #include "core/numbers.h"
 #include "core/run_time_error.h"
+#include "print/title.h"
 #include "response/graph_surface.h"
 
 namespace zefirondo {
@@ -52,10 +52,6 @@ struct GraphDesign {
   const char* unit;
 };
 
-std::string WithoutExtension(const std::string& title) {
-  return title.substr(0, title.size() - std::min<std::size_t>(4, title.size()));
-}
-
 Page GraphPage(Program& program, const GraphDesign& design) {
   Page page;
   const auto text = [&](double x, double y, const std::string& words) {
@@ -64,7 +60,9 @@ Page GraphPage(Program& program, const GraphDesign& design) {
   const int step = GridStep(design.top) / 10;
   const double pitch = RoundHalfEven(Divide(45000.0, Divide(design.top, step)));
   double y = 5290 - pitch;
-  text(2000, 580, design.heading + WithoutExtension(*design.title) + "  " + DateText(program.platform.Today()));
+  page.items.emplace_back(
+      PageText{2000, 580, design.heading + WithoutExtension(*design.title) + "  " + DateText(program.platform.Today()),
+               0, true});
   for (int level = 10 * step; level <= design.top; level += 10 * step) {
     text(500, y, std::to_string(level - design.shown_less));
     y -= pitch;

@@ -13,7 +13,8 @@ namespace zefirondo {
 struct PageText {
   double x = 0.0, y = 0.0;
   std::string text;
-  int tab = 0;  // the column of the tab stop; 0 for none
+  int tab = 0;          // the column of the tab stop; 0 for none
+  bool strong = false;  // a heading
 };
 
 struct PageLine {

@@ -1,10 +1,11 @@
 #include "print/project_report.h"
 
-#include <algorithm>
 #include <array>
 
 #include "core/numbers.h"
 #include "core/run_time_error.h"
+#include "core/text.h"
+#include "print/title.h"
 
 namespace zefirondo {
 namespace {
@@ -172,6 +173,7 @@ class Writer {
   void Text(double x, double y, const std::string& text, int tab = 0) {
     if (!text.empty()) page.items.emplace_back(PageText{x, y, text, tab});
   }
+  void Heading(double x, double y, const std::string& text) { page.items.emplace_back(PageText{x, y, text, 0, true}); }
   void Line(double x1, double y1, double x2, double y2) { page.items.emplace_back(PageLine{x1, y1, x2, y2}); }
 
   void Row(double x, double y, const Caption& caption, Control Sheet::*field, const char* unit, int value_tab,
@@ -195,14 +197,15 @@ class Writer {
 
   /// The title interrupts the upper edge.
   void Frame(const ReportFrame& frame) {
-    constexpr double kTitleMiddle = 110;
-    constexpr double kTitleGap = 90;
-    constexpr double kCharacter = 115;
+    constexpr double kEdgeBelow = 70;  // the edge runs through the upper half of the title
+    constexpr double kIndent = 70;
+    constexpr double kTitleGap = 40;
+    constexpr double kLetter = 107;  // the mean width of a capital
     const std::string title = program_.Text(frame.title);
-    const double left = frame.title_x - 180;
-    const double top = frame.title_y + kTitleMiddle;
-    const double behind = frame.title_x + static_cast<double>(title.size()) * kCharacter + kTitleGap;
-    Text(frame.title_x, frame.title_y, title);
+    const double left = frame.title_x - kIndent;
+    const double top = frame.title_y + kEdgeBelow;
+    const double behind = frame.title_x + static_cast<double>(CharacterCount(title)) * kLetter + kTitleGap;
+    Heading(frame.title_x, frame.title_y, title);
     Line(left, top, frame.title_x - kTitleGap, top);
     Line(behind, top, frame.right, top);
     Line(left, top, left, frame.bottom);
@@ -252,7 +255,7 @@ void WriteBox(Writer& out, Program& program) {
 
 void WritePorts(Writer& out, Program& program) {
   const bool round = program.windows.frmthsm.RoundPort();
-  out.Picture(5840, 6600, 500, 500, round ? "imgforma(0)" : "imgforma(1)");
+  out.Picture(5840, 6600, round ? 500 : 750, 500, round ? "imgforma(0)" : "imgforma(1)");
   out.Text(5862, 7164, program.Text(485));
   out.RowsAt(kPortsX, kPortRows);
   if (round) {
@@ -272,7 +275,7 @@ void WriteTransducer(Writer& out) {
 /// The name that is printed: asked for when the project has none, and without the extension of a file.
 std::string AskName(Program& program) {
   const std::string& title = program.state.ProjectTitle;
-  if (!title.empty()) return title.substr(0, title.size() - std::min<std::size_t>(4, title.size()));
+  if (!title.empty()) return WithoutExtension(title);
   const std::string name = program.platform.ShowInput({program.Text(475), program.Text(460)});
   return name.empty() ? program.Text(502) : name;
 }
@@ -281,10 +284,10 @@ std::string AskName(Program& program) {
 
 Page ReportPage(Program& program, const std::string& name) {
   Writer out(program);
-  out.Text(3400, 350,
-           program.Text(461) + program.state.BoxSection + program.Text(476) + name + program.Text(462) +
-               DateText(program.platform.Today()));
-  out.Text(3670, 780, program.Text(268));
+  out.Heading(3400, 350,
+              program.Text(461) + program.state.BoxSection + program.Text(476) + name + program.Text(462) +
+                  DateText(program.platform.Today()));
+  out.Heading(3670, 780, program.Text(268));
   WriteGraph(out, program);
   for (const ReportFrame& frame : kUpperFrames) out.Frame(frame);
   WriteBox(out, program);

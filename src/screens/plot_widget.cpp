@@ -144,18 +144,17 @@ bool IsCurve(const Stroke& stroke) { return stroke.count >= 2 && !IsGridLine(str
 
 }  // namespace
 
-void PaintSurface(QPainter& painter, const Surface& surface, const QRectF& area, double weight) {
+void PaintSurface(QPainter& painter, const Surface& surface, const QRectF& area, const PlotPens& pens) {
   painter.save();
   painter.setClipRect(area);
   painter.fillRect(area, Qt::white);
-  PaintGrid(painter, surface, area, weight);
+  PaintGrid(painter, surface, area, pens.grid);
   painter.setRenderHint(QPainter::Antialiasing);
   for (const Stroke& stroke : surface.strokes) {
     if (!IsCurve(stroke)) continue;
     ThinnedCurve curve;
     const std::vector<QPointF>& points = ThinnedPoints(curve, surface, stroke, area);
-    painter.setPen(
-        QPen(LiteralColour(stroke.colour), kCurveWeight * weight, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(LiteralColour(stroke.colour), pens.curve, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPolyline(points.data(), static_cast<int>(points.size()));
   }
   painter.restore();

@@ -13,9 +13,14 @@ class QPainter;
 
 namespace zefirondo::screens {
 
-/// Paints all that stands on a surface into a rectangle of the painter's device, as lines. A hairline is `weight`
-/// units of the painter wide and a curve a little more.
-void PaintSurface(QPainter& painter, const Surface& surface, const QRectF& area, double weight = 1.0);
+/// How wide lines are, in units of the painter.
+struct PlotPens {
+  double grid = 1.0;
+  double curve = 1.6;
+};
+
+/// Paints all that stands on a surface into a rectangle of the painter's device, as lines.
+void PaintSurface(QPainter& painter, const Surface& surface, const QRectF& area, const PlotPens& pens = {});
 
 /// The picture of a surface, `size` pixels large, with hairlines of `weight` pixels.
 [[nodiscard]] QImage SurfaceImage(const Surface& surface, const QSize& size, double weight = 1.0);

@@ -7,6 +7,8 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QProcess>
 #include <QPushButton>
 #include <QScreen>
@@ -17,6 +19,7 @@
 
 #include "core/run_time_error.h"
 #include "screens/association.h"
+#include "screens/printing.h"
 #include "screens/qt_text.h"
 
 namespace zefirondo::screens {
@@ -91,6 +94,10 @@ std::vector<std::string> NameFilters(const std::string& filter) {
   return filters;
 }
 
+QtPlatform::QtPlatform(Language language) : language_(language) {}
+
+QtPlatform::~QtPlatform() = default;
+
 void QtPlatform::Attach(QWidget* window, std::function<void()> refresh) {
   window_ = window;
   refresh_ = std::move(refresh);
@@ -134,11 +141,24 @@ std::string QtPlatform::ClipboardText() { return FromQt(QApplication::clipboard(
 
 void QtPlatform::ClearClipboard() { QApplication::clipboard()->clear(); }
 
-// This version prints nothing yet: the printer dialog counts as cancelled.
-std::optional<PrintChoice> QtPlatform::ChoosePrinter() { return std::nullopt; }
+/// The printer of the last dialog is offered again, with one copy.
+std::optional<PrintChoice> QtPlatform::ChoosePrinter() {
+  Refresh();
+  if (!printer_) {
+    printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer_->setCreator(QStringLiteral("Zefirondo"));
+  }
+  SetUpPaper(*printer_);
+  QPrintDialog dialog(printer_.get(), window_);
+  dialog.setOptions(QAbstractPrintDialog::PrintToFile);  // one page, so neither ranges nor a collation
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return TakeChoice(*printer_);
+}
 
-void QtPlatform::Print(const std::vector<Page>& /*pages*/, const PrintChoice& /*choice*/) {
-  throw RunTimeError(ErrorNumber::DeviceError);
+void QtPlatform::Print(const std::vector<Page>& pages, const PrintChoice& /*choice*/) {
+  if (!printer_) throw RunTimeError(ErrorNumber::DeviceError);
+  printer_->setDocName(QStringLiteral("Zefirondo"));
+  PrintPages(*printer_, pages);
 }
 
 /// The store ties a file's ending to a program's name and the name to a command. A desktop of this kind keeps

@@ -3,17 +3,20 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 
 #include "core/messages.h"
 #include "core/platform.h"
 
+class QPrinter;
 class QWidget;
 
 namespace zefirondo::screens {
 
 class QtPlatform : public Platform {
  public:
-  explicit QtPlatform(Language language) : language_(language) {}
+  explicit QtPlatform(Language language);
+  ~QtPlatform() override;
 
   /// The window that dialogs stand before, and what brings the screen in line before one is shown.
   void Attach(QWidget* window, std::function<void()> refresh);
@@ -44,6 +47,7 @@ class QtPlatform : public Platform {
   QWidget* window_ = nullptr;
   std::function<void()> refresh_;
   std::map<std::string, std::string> store_;
+  std::unique_ptr<QPrinter> printer_;  // of the last printer dialog
   bool ended_ = false;
   bool failed_ = false;
 };

@@ -6,6 +6,7 @@
 #include "fields_test.h"
 #include "layout_test.h"
 #include "platform_test.h"
+#include "print_test.h"
 #include "road_test.h"
 #include "windows_test.h"
 
@@ -26,5 +27,6 @@ int main(int argc, char** argv) {
   failures += Run<WindowsTest>(argc, argv);
   failures += Run<LayoutTest>(argc, argv);
   failures += Run<PlatformTest>(argc, argv);
+  failures += Run<PrintTest>(argc, argv);
   return failures == 0 ? 0 : 1;
 }
