@@ -229,7 +229,8 @@ void OpenDelay(Program& program) { OpenWindow(program, "frmsommadelay"); }
 
 void pctgrafFase_MouseDown(Program& program, double x, double y) {
   PhaseOffsetTool& form = Tool(program);
-  ShowReadout(form.surface, form.txtposFase, x, y, kTop - y, {.unit = " °", .frequency_shift = kPlotShift});
+  ShowReadout(form.surface, form.txtposFase, x, y, kTop - y,
+              {.unit = " °", .frequency_shift = kPlotShift, .middle = kLeft});
 }
 
 void pctgrafFase_MouseUp(Program& program) { HideReadout(Tool(program).txtposFase); }
@@ -359,7 +360,7 @@ void ConnectTool(Program& program) {
 }  // namespace
 
 double PhaseAt(const Curve& hertz, const Curve& degrees, double fo, bool take_slope) {
-  if (degrees.size() < hertz.size()) throw RunTimeError(ErrorNumber::IndexOutOfRange);
+  if (hertz.empty() || degrees.size() < hertz.size()) throw RunTimeError(ErrorNumber::IndexOutOfRange);
   std::int16_t wraps = 0;
   for (std::size_t i = 1; i < hertz.size(); ++i) {
     if (std::fabs(degrees[i]) > kEdge && degrees[i] > 0 && degrees[i - 1] < 0) wraps = ToInteger(wraps + 1.0);
@@ -392,7 +393,7 @@ double FoldPhase(double v) {
 }
 
 Curve ApplyDelay(const Curve& degrees, const Curve& hertz, double milliseconds) {
-  if (hertz.size() < degrees.size()) throw RunTimeError(ErrorNumber::IndexOutOfRange);
+  if (degrees.empty() || hertz.size() < degrees.size()) throw RunTimeError(ErrorNumber::IndexOutOfRange);
   Curve delayed(degrees.size(), 0.0);
   for (std::size_t i = 0; i < degrees.size(); ++i) {
     const double shift = (milliseconds / 1000.0) * 360.0 * hertz[i];

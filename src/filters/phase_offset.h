@@ -13,7 +13,8 @@ struct PhaseOffset {
 };
 
 /// The phase in degrees of a curve at `fo` Hz: that of the last point at or below it, less a turn for each wrap from
-/// the bottom to the top edge before it when `take_slope` is set; 0 above all points. Throws `RunTimeError`.
+/// the bottom to the top edge before it when `take_slope` is set; 0 above all points. Throws `RunTimeError`
+/// (index) for an empty curve.
 [[nodiscard]] double PhaseAt(const Curve& hertz, const Curve& degrees, double fo, bool take_slope);
 
 /// The offset of two phases at `fo` Hz. Throws `RunTimeError` (division by zero) for fo = 0.
@@ -23,7 +24,7 @@ struct PhaseOffset {
 /// stays above 180, both as wanted.
 [[nodiscard]] double FoldPhase(double degrees);
 
-/// The degrees of a curve after a delay. Throws `RunTimeError` (index) for arrays of unequal length.
+/// The degrees of a curve after a delay. Throws `RunTimeError` (index) for an empty curve.
 [[nodiscard]] Curve ApplyDelay(const Curve& degrees, const Curve& hertz, double milliseconds);
 
 /// Resets the tool: files, curves, traces, buttons, clipboard.

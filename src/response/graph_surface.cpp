@@ -135,7 +135,7 @@ void ShowReadout(const Surface& surface, Control& readout, double x, double y, d
   const std::string measured = style.width_of != nullptr ? FormatTwoDecimals(*style.width_of) : shown;
   readout.width = static_cast<double>((hertz + " " + measured).size());
   *readout.text = hertz + " Hz ; " + shown + style.unit;
-  readout.left = x > scale.width / 2 + 7 ? x - readout.width + 7 : x + 1;
+  readout.left = x > scale.width / 2 + style.middle ? x - readout.width + 7 : x + 1;
   const double twips_per_unit = Divide(surface.twips_height, scale.height);
   readout.top = y > scale.height / 2 ? y - 320 / twips_per_unit : y + style.below_twips / twips_per_unit;
   readout.visible = true;

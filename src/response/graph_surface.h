@@ -47,6 +47,7 @@ struct ReadoutStyle {
   const char* unit = "";
   double below_twips = 60;
   double frequency_shift = 0;        // what the places of the plot are less than 20·log10(f)
+  double middle = 7;                 // how far right of half the width the read-out changes its side
   const double* width_of = nullptr;  // the value whose text gives the width, when it is not the one shown
 };
 

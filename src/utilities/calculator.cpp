@@ -66,8 +66,8 @@ void KeyDigit(Program& program, char digit) {
 }
 
 double Apply(Program& program, const Calculator& form) {
-  if (form.OpFlag == "+") return form.Op1 + form.Op2;
-  if (form.OpFlag == "-") return form.Op1 - form.Op2;
+  if (form.OpFlag == "+") return Finite(form.Op1 + form.Op2);
+  if (form.OpFlag == "-") return Finite(form.Op1 - form.Op2);
   if (form.OpFlag == "X" || form.OpFlag == "%") return Finite(form.Op1 * form.Op2);
   if (form.OpFlag == "=") return form.Op2;
   if (form.OpFlag != "/") return form.Op1;

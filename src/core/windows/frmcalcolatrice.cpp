@@ -21,7 +21,7 @@ const std::vector<ControlRow<Form>> kRows{
     {Button, ELEMENT(Number, 7), {.caption = "7"}},
     {Button, ELEMENT(Number, 8), {.caption = "8"}},
     {Button, ELEMENT(Number, 9), {.caption = "9"}},
-    {Button, CONTROL(Decimal), {.caption = ","}},
+    {Button, CONTROL(Decimal), {.caption = "."}},
     {Button, ELEMENT(Operator, 0), {.caption = "+"}},
     {Button, ELEMENT(Operator, 1), {.caption = "-"}},
     {Button, ELEMENT(Operator, 2), {.caption = "X"}},
