@@ -129,7 +129,10 @@ struct SplOverlay {
   std::size_t count = 0;
 
   void Add(const Row& row) {
-    for (Curve* const curve : {&s.OverlaySplFreq, &s.SumFreq, &s.OverlaySplDb, &s.SumDb}) curve->resize(count + 2, 0.0);
+    for (Curve* const curve : {&s.OverlaySplFreq, &s.SumFreq, &s.OverlaySplDb, &s.SumDb}) {
+      curve->resize(count + 2);
+      curve->back() = 0.0;  // also where an earlier import was longer
+    }
     const double x = 20 * Log10(row.first);
     s.OverlaySplFreq[count] = s.SumFreq[count] = x;
     s.OverlaySplDb[count] = row.second;

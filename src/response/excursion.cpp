@@ -50,7 +50,8 @@ class VentedExcursion {
       : driver_(GatherDriver(s)),
         response_(s.VbaVented, driver_.fs, s.Qts, ReadNumber(s.txtfb), driver_.vas, ReadNumber(s.cmbql)),
         sd_(ReadNumber(s.txtsd)),
-        lp_(10 * Log10(power) + ReferenceLevel(s, driver_.fs, driver_.vas, driver_.qes)),
+        lref_(ReferenceLevel(s, driver_.fs, driver_.vas, driver_.qes)),
+        lp_(10 * Log10(power) + lref_),
         fs4_(Power(driver_.fs, 4)),
         air_((kPi * kPi * kPi * 4) * Divide(s.roo, s.Velocity)) {
     // A box loss of 7 is built in here, whatever `cmbql` says, as wanted: 97/49 = 2 − 1/7².
@@ -75,6 +76,7 @@ class VentedExcursion {
   DriverInputs driver_;
   VentedResponse response_;
   double sd_;
+  double lref_;
   double lp_;
   double fs4_;
   double air_;

@@ -53,7 +53,10 @@ double OneDriverLevel(const ProjectState& s) {
 
 void TakeOneWattLevel(ProjectState& s) { s.USPL = OneDriverLevel(s) + WiringGain(s); }
 
-void TakePowerLevel(ProjectState& s, double power) { s.SPLmax = 10 * Log10(power) + OneDriverLevel(s) + WiringGain(s); }
+void TakePowerLevel(ProjectState& s, double power) {
+  const double one_watt = OneDriverLevel(s);  // a failure here comes before that of the power's logarithm
+  s.SPLmax = 10 * Log10(power) + one_watt + WiringGain(s);
+}
 
 bool OnVentedTab(const Program& program) { return program.windows.frmthsm.selected_tab == "ref"; }
 

@@ -96,11 +96,12 @@ LevelSweep SweepLevels(const SquaredMagnitude& response, std::size_t points, dou
   if (std::fetestexcept(FE_DIVBYZERO | FE_INVALID | FE_OVERFLOW) == 0) return sweep;
 
   abscissa.clear();
-  levels.resize(1);  // each point goes through memory, so that its flags are raised before they are read
+  levels.clear();
+  volatile double point = 0.0;  // through memory, so that its flags are raised before they are read
   for (std::size_t i = 0; i < points; ++i) {
     BeginArithmetic();
-    levels[0] = response(hertz[i]);
-    detail::CheckPoint(levels[0]);
+    point = response(hertz[i]);
+    detail::CheckPoint(point);
   }
   throw RunTimeError(ErrorNumber::Overflow);
 }

@@ -53,6 +53,7 @@ AirSpeedGraph::AirSpeedGraph(ProjectState& state) {
   frequencies.Describe(window, state,
                        {"Label10", "Label20", "Label30", "Label40", "Label50", "Label100", "Label200", "Label300",
                         "Label400", "Label1k"});
+  DescribeControl(window, frequencies.labels[10], ControlKind::Label, "lbl2k", -1, {}, state);  // empty, as wanted
 }
 
 }  // namespace zefirondo
