@@ -16,24 +16,39 @@
 namespace zefirondo::screens {
 namespace {
 
-constexpr double kCurveWeight = 1.6;  // against a hairline of 1
-constexpr double kTolerance = 0.08;   // pixels that a thinned curve may stray from the full one
-constexpr double kFarOutside = 4.0;   // plot heights beyond which a point need not be exact
-const QColor kGridColour(150, 150, 150);
+constexpr double kTolerance = 0.08;  // pixels that a thinned curve may stray from the full one
+constexpr double kFarAway = 1e6;     // pixels that an integer holds easily
+constexpr double kOutside = 1.0;     // plot heights beyond its edges where a curve is cut
 
 struct Mapping {
-  double x0, x_factor, y0, y_factor, lowest, highest;
+  double x0, x_factor, y0, y_factor;
 
   Mapping(const Scale& scale, const QRectF& area)
       : x0(area.left() - scale.left * area.width() / scale.width),
         x_factor(area.width() / scale.width),
         y0(area.top()),
-        y_factor(area.height() / scale.height),
-        lowest(area.top() - kFarOutside * area.height()),
-        highest(area.bottom() + kFarOutside * area.height()) {}
+        y_factor(area.height() / scale.height) {}
 
   [[nodiscard]] QPointF operator()(const Point& point) const {
-    return {x0 + point.x * x_factor, std::clamp(y0 + point.y * y_factor, lowest, highest)};
+    return {x0 + point.x * x_factor, y0 + point.y * y_factor};
+  }
+};
+
+/// The band of heights that a curve is drawn in. What lies above or below runs along the band's edge.
+struct Band {
+  double top, bottom;
+
+  explicit Band(const QRectF& area)
+      : top(area.top() - kOutside * area.height()), bottom(area.bottom() + kOutside * area.height()) {}
+
+  [[nodiscard]] bool Holds(const QPointF& point) const { return point.y() >= top && point.y() <= bottom; }
+  [[nodiscard]] QPointF Edge(const QPointF& point) const { return {point.x(), std::clamp(point.y(), top, bottom)}; }
+
+  /// Where a line leaves the band, or enters it, at the edge that is nearer to its end `outside`.
+  [[nodiscard]] QPointF Crossing(const QPointF& outside, const QPointF& other) const {
+    const double y = outside.y() < top ? top : bottom;
+    const double part = (y - outside.y()) / (other.y() - outside.y());
+    return {outside.x() + (other.x() - outside.x()) * part, y};
   }
 };
 
@@ -113,21 +128,59 @@ class ThinnedCurve {
   bool has_pending_ = false;
 };
 
-bool IsGridLine(const Stroke& stroke) { return stroke.count == 2 && stroke.colour == colour::kBlack; }
+/// Hands a chain of points to a curve, cut at the edges of the band. A point that is no number is left out.
+class CutCurve {
+ public:
+  CutCurve(ThinnedCurve& curve, const Band& band) : curve_(curve), band_(band) {}
 
-void PaintGridLine(QPainter& painter, const QPointF& from, const QPointF& to, double weight) {
-  const double width = std::max(1.0, std::round(weight));
-  const QRectF line(QPointF(std::floor(std::min(from.x(), to.x())), std::floor(std::min(from.y(), to.y()))),
-                    QSizeF(std::max(width, std::abs(to.x() - from.x())), std::max(width, std::abs(to.y() - from.y()))));
-  painter.fillRect(line, kGridColour);
+  void Add(const QPointF& point) {
+    if (!std::isfinite(point.x()) || !std::isfinite(point.y())) return;
+    const bool inside = band_.Holds(point);
+    if (started_ && !(inside && inside_)) AddCrossings(point, inside);
+    curve_.Add(inside ? point : band_.Edge(point));
+    last_ = point;
+    inside_ = inside;
+    started_ = true;
+  }
+
+ private:
+  void AddCrossings(const QPointF& point, bool inside) {
+    const bool same_side = !inside && !inside_ && (last_.y() < band_.top) == (point.y() < band_.top);
+    if (same_side) return;
+    if (!inside_) curve_.Add(band_.Crossing(last_, point));
+    if (!inside) curve_.Add(band_.Crossing(point, last_));
+  }
+
+  ThinnedCurve& curve_;
+  const Band& band_;
+  QPointF last_;
+  bool inside_ = true;
+  bool started_ = false;
+};
+
+/// A line of the grid: upright or level, and thin.
+bool IsGridLine(const Surface& surface, const Stroke& stroke) {
+  if (stroke.count != 2 || stroke.colour != colour::kBlack) return false;
+  const Point* const ends = surface.points.data() + stroke.first;
+  return ends[0].x == ends[1].x || ends[0].y == ends[1].y;
 }
 
-void PaintGrid(QPainter& painter, const Surface& surface, const QRectF& area, double weight) {
-  for (const Stroke& stroke : surface.strokes) {
-    if (!IsGridLine(stroke)) continue;
-    const Mapping map(stroke.scale, area);
-    const Point* const ends = surface.points.data() + stroke.first;
-    PaintGridLine(painter, map(ends[0]), map(ends[1]), weight);
+/// Where a line of the grid stands: whole pixels, so that it is sharp.
+QRect GridLine(const Surface& surface, const Stroke& stroke, const QRectF& area, double weight) {
+  const Mapping map(stroke.scale, area);
+  const Point* const ends = surface.points.data() + stroke.first;
+  const auto pixel = [](double place) { return static_cast<int>(std::floor(std::clamp(place, -kFarAway, kFarAway))); };
+  const int width = std::max(1, static_cast<int>(std::lround(weight)));
+  const auto [left, right] = std::minmax({pixel(map(ends[0]).x()), pixel(map(ends[1]).x())});
+  const auto [top, bottom] = std::minmax({pixel(map(ends[0]).y()), pixel(map(ends[1]).y())});
+  return {left, top, std::max(width, right - left), std::max(width, bottom - top)};
+}
+
+void Fill(QImage& image, const QRect& wanted, QRgb colour) {
+  const QRect place = wanted & image.rect();
+  for (int y = place.top(); y <= place.bottom(); ++y) {
+    auto* const row = reinterpret_cast<QRgb*>(image.scanLine(y));
+    std::fill(row + place.left(), row + place.left() + place.width(), colour);
   }
 }
 
@@ -135,12 +188,12 @@ void PaintGrid(QPainter& painter, const Surface& surface, const QRectF& area, do
 const std::vector<QPointF>& ThinnedPoints(ThinnedCurve& curve, const Surface& surface, const Stroke& stroke,
                                           const QRectF& area) {
   const Mapping map(stroke.scale, area);
+  const Band band(area);
+  CutCurve cut(curve, band);
   const Point* const points = surface.points.data() + stroke.first;
-  for (std::size_t i = 0; i < stroke.count; ++i) curve.Add(map(points[i]));
+  for (std::size_t i = 0; i < stroke.count; ++i) cut.Add(map(points[i]));
   return curve.Finish();
 }
-
-bool IsCurve(const Stroke& stroke) { return stroke.count >= 2 && !IsGridLine(stroke); }
 
 }  // namespace
 
@@ -148,14 +201,16 @@ void PaintSurface(QPainter& painter, const Surface& surface, const QRectF& area,
   painter.save();
   painter.setClipRect(area);
   painter.fillRect(area, Qt::white);
-  PaintGrid(painter, surface, area, pens.grid);
   painter.setRenderHint(QPainter::Antialiasing);
   for (const Stroke& stroke : surface.strokes) {
-    if (!IsCurve(stroke)) continue;
-    ThinnedCurve curve;
-    const std::vector<QPointF>& points = ThinnedPoints(curve, surface, stroke, area);
-    painter.setPen(QPen(LiteralColour(stroke.colour), pens.curve, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPolyline(points.data(), static_cast<int>(points.size()));
+    if (IsGridLine(surface, stroke)) {
+      painter.fillRect(GridLine(surface, stroke, area, pens.grid), Qt::black);
+    } else if (stroke.count >= 2) {
+      ThinnedCurve curve;
+      const std::vector<QPointF>& points = ThinnedPoints(curve, surface, stroke, area);
+      painter.setPen(QPen(LiteralColour(stroke.colour), pens.curve, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+      painter.drawPolyline(points.data(), static_cast<int>(points.size()));
+    }
   }
   painter.restore();
 }
@@ -164,14 +219,15 @@ QImage SurfaceImage(const Surface& surface, const QSize& size, double weight) {
   QImage image(size, QImage::Format_RGB32);
   image.fill(Qt::white);
   const QRectF area(QPointF(), size);
-  QPainter painter(&image);
-  PaintGrid(painter, surface, area, weight);
-  painter.end();
+  const PlotPens pens;
   CurveRaster raster(image);
   for (const Stroke& stroke : surface.strokes) {
-    if (!IsCurve(stroke)) continue;
-    ThinnedCurve curve;
-    raster.Draw(ThinnedPoints(curve, surface, stroke, area), kCurveWeight * weight, LiteralColour(stroke.colour).rgb());
+    if (IsGridLine(surface, stroke)) {
+      Fill(image, GridLine(surface, stroke, area, pens.grid * weight), QColor(Qt::black).rgb());
+    } else if (stroke.count >= 2) {
+      ThinnedCurve curve;
+      raster.Draw(ThinnedPoints(curve, surface, stroke, area), pens.curve * weight, LiteralColour(stroke.colour).rgb());
+    }
   }
   return image;
 }

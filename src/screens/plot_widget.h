@@ -16,7 +16,7 @@ namespace zefirondo::screens {
 /// How wide lines are, in units of the painter.
 struct PlotPens {
   double grid = 1.0;
-  double curve = 1.6;
+  double curve = 2.0;
 };
 
 /// Paints all that stands on a surface into a rectangle of the painter's device, as lines.

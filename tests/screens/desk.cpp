@@ -1,9 +1,12 @@
 #include "desk.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMdiArea>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -117,6 +120,39 @@ void Desk::ClickTab(const QString& caption) {
   }
 }
 
+void Desk::ChooseEntry(const QString& name) {
+  QCoreApplication::processEvents();  // the bar is laid out when it is first shown
+  QMenuBar* const bar = frame->menuBar();
+  for (QAction* const top : bar->actions()) {
+    QMenu* const menu = top->menu();
+    const QList<QAction*> entries = menu == nullptr ? QList<QAction*>() : menu->actions();
+    const auto entry = std::find_if(entries.begin(), entries.end(),
+                                    [&](const QAction* action) { return action->objectName() == name; });
+    if (entry == entries.end() && top->objectName() != name) continue;
+    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(top).center());
+    if (entry != entries.end()) QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(*entry).center());
+    QCoreApplication::processEvents();
+    return;
+  }
+  QTest::qFail(qPrintable(QStringLiteral("no menu entry ") + name), __FILE__, __LINE__);
+}
+
+void Desk::Front(std::string_view window) {
+  frame->area()->setActiveSubWindow(View(window));
+  QCoreApplication::processEvents();
+}
+
+void Desk::PickItem(const QString& name, const QString& item) {
+  auto* const combo = Find<QComboBox>(name);
+  Click(name, Qt::LeftButton, QPoint(combo->width() - 6, combo->height() / 2));
+  QAbstractItemView* const list = combo->view();
+  if (!list->isVisible()) QTest::qFail(qPrintable(QStringLiteral("no list opened: ") + name), __FILE__, __LINE__);
+  const QModelIndex index = combo->model()->index(combo->findText(item), 0);
+  list->setCurrentIndex(index);
+  QTest::keyClick(list, Qt::Key_Return);
+  QCoreApplication::processEvents();
+}
+
 void Desk::Fill(const QString& name, const QString& text) {
   Click(name);
   Key(Qt::Key_A, Qt::ControlModifier);
@@ -158,7 +194,9 @@ void Desk::DesignVentedBox() {
 }
 
 QWidget* Desk::Find(const QString& name) const {
-  QWidget* const found = frame->findChild<QWidget*>(name);
+  const QString window = name.section(QLatin1Char('.'), 0, -2);
+  const QWidget* const place = window.isEmpty() ? frame.get() : static_cast<QWidget*>(View(window.toStdString()));
+  QWidget* const found = place == nullptr ? nullptr : place->findChild<QWidget*>(name.section(QLatin1Char('.'), -1));
   if (found == nullptr) QTest::qFail(qPrintable(QStringLiteral("no widget ") + name), __FILE__, __LINE__);
   return found;
 }

@@ -68,6 +68,13 @@ class Desk {
   void DoubleClick(const QString& name);
   void ClickTab(const QString& caption);
 
+  /// Opens a menu of the bar with the mouse and clicks an entry, or clicks an entry of the bar itself.
+  void ChooseEntry(const QString& name);
+  /// Brings a window to the front, as its tab in the window list would.
+  void Front(std::string_view window);
+  /// Opens a combo box with the mouse and takes an item with Enter.
+  void PickItem(const QString& name, const QString& item);
+
   /// Puts the caret into a field with the mouse, types over what it holds.
   void Fill(const QString& name, const QString& text);
 
@@ -78,6 +85,7 @@ class Desk {
   /// Computes, and takes the vented box that is proposed.
   void DesignVentedBox();
 
+  /// A widget by its control's name, or by "window.control" where windows share it.
   [[nodiscard]] QWidget* Find(const QString& name) const;
   template <class Widget>
   [[nodiscard]] Widget* Find(const QString& name) const {

@@ -91,7 +91,7 @@ void PlatformTest::AGridLineIsOnePixel() {
   surface.Line(25, 0, 25, 100, colour::kBlack);
   const QImage image = SurfaceImage(surface, QSize(200, 200));
   const QRgb line = image.pixel(10, 100);
-  QVERIFY(qGray(line) < 200);
+  QCOMPARE(line, qRgb(0, 0, 0));
   QCOMPARE(image.pixel(10, 99), qRgb(255, 255, 255));
   QCOMPARE(image.pixel(10, 101), qRgb(255, 255, 255));
   QCOMPARE(image.pixel(50, 10), line);
@@ -127,6 +127,31 @@ void PlatformTest::ACurveMayLeaveThePlot() {
   QCOMPARE(SurfaceImage(Surface(), QSize(10, 10)).pixel(5, 5), qRgb(255, 255, 255));
 }
 
+void PlatformTest::ACurveThatLeavesThePlotKeepsItsSlope() {
+  Surface surface = SquareSurface();
+  Point* const points = surface.Chain(3, colour::kRed);
+  points[0] = {0, 100};
+  points[1] = {50, -4900};  // a hundred up for each one across: the plot's top is reached at 1
+  points[2] = {100, 100};
+  const QImage image = SurfaceImage(surface, QSize(200, 200));
+  const auto is_red = [&image](int x, int y) { return qGreen(image.pixel(x, y)) < 160; };
+  QVERIFY(is_red(1, 100));  // halfway up, at 0.5
+  QVERIFY(is_red(198, 100));
+  for (int x = 5; x < 195; ++x) QVERIFY(!is_red(x, 100) && !is_red(x, 2) && !is_red(x, 197));
+}
+
+void PlatformTest::WhatIsDrawnLaterLiesOnTop() {
+  Surface surface = SquareSurface();
+  Point* const points = surface.Chain(3, colour::kRed);
+  points[0] = {0, 50};
+  points[1] = {50, 50};
+  points[2] = {100, 50};
+  surface.Line(25, 0, 25, 100, colour::kBlack);
+  const QImage image = SurfaceImage(surface, QSize(200, 200));
+  QCOMPARE(image.pixel(50, 100), qRgb(0, 0, 0));
+  QVERIFY(qRed(image.pixel(60, 100)) > 200);
+}
+
 void PlatformTest::AStrokeKeepsItsScale() {
   Surface surface = SquareSurface();
   surface.Line(0, 50, 100, 50, colour::kBlack);
@@ -135,4 +160,14 @@ void PlatformTest::AStrokeKeepsItsScale() {
   const QImage image = SurfaceImage(surface, QSize(200, 200));
   QVERIFY(qGray(image.pixel(20, 100)) < 200);
   QVERIFY(qGray(image.pixel(20, 50)) < 200);
+}
+
+void PlatformTest::AFailureThatEndsIsAStatusOfOne() {
+  screens::QtPlatform good(Language::English);
+  good.EndProgram(false);
+  QVERIFY(good.ended());
+  QCOMPARE(good.exit_status(), 0);
+  screens::QtPlatform bad(Language::English);
+  bad.EndProgram(true);
+  QCOMPARE(bad.exit_status(), 1);
 }

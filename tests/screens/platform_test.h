@@ -15,5 +15,8 @@ class PlatformTest : public QObject {
   void AGridLineIsOnePixel();
   void AThinnedCurveKeepsItsPeaks();
   void ACurveMayLeaveThePlot();
+  void ACurveThatLeavesThePlotKeepsItsSlope();
+  void WhatIsDrawnLaterLiesOnTop();
   void AStrokeKeepsItsScale();
+  void AFailureThatEndsIsAStatusOfOne();
 };
