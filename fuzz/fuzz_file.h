@@ -16,7 +16,7 @@
 
 namespace zefirondo {
 
-/// A file in memory with these bytes.
+/// A file in memory with these bytes, under a name with an extension: a dialog would add one to a bare name.
 class FuzzFile {
  public:
   FuzzFile(const std::uint8_t* data, std::size_t size) : descriptor_(::memfd_create("input", 0)) {
@@ -27,15 +27,21 @@ class FuzzFile {
       data += written;
       size -= static_cast<std::size_t>(written);
     }
+    ::unlink(path_.c_str());
+    if (::symlink(("/proc/self/fd/" + std::to_string(descriptor_)).c_str(), path_.c_str()) != 0) std::abort();
   }
   FuzzFile(const FuzzFile&) = delete;
   FuzzFile& operator=(const FuzzFile&) = delete;
-  ~FuzzFile() { ::close(descriptor_); }
+  ~FuzzFile() {
+    ::unlink(path_.c_str());
+    ::close(descriptor_);
+  }
 
-  [[nodiscard]] std::string path() const { return "/proc/self/fd/" + std::to_string(descriptor_); }
+  [[nodiscard]] const std::string& path() const { return path_; }
 
  private:
   int descriptor_;
+  std::string path_ = "/tmp/zefirondo-fuzz-" + std::to_string(::getpid()) + ".any";
 };
 
 struct FuzzDesk {
@@ -44,6 +50,11 @@ struct FuzzDesk {
   Program program{platform, Language::English, "/nonexistent"};
 
   FuzzDesk() { ConnectProgram(program); }
+
+  /// An import that did not find its file has tested nothing.
+  void ExpectFound() const {
+    if (out.find("File not found") != std::string::npos) std::abort();
+  }
 };
 
 }  // namespace zefirondo

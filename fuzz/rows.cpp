@@ -18,7 +18,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   } catch (const RunTimeError&) {
   }
   try {
-    static_cast<void>(FindImpedancePoints(hertz, ohm, 5.6, [] {}));
+    static_cast<void>(FindImpedancePoints(hertz, ohm, 5.6, [](std::size_t) {}));
   } catch (const RunTimeError&) {
   }
   for (const auto find : {FindCapacitivePoints, FindInductivePoints}) {

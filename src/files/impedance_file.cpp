@@ -10,6 +10,7 @@ void ImpedanceStore::Add(const Row& row) {
     ohm_.assign(1, 0.0);
     empty_ = false;
   }
+  RequireRoom(hertz_.size() - 1);
   hertz_.back() = row.first;
   ohm_.back() = row.second;
   hertz_.push_back(0.0);

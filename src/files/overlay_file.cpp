@@ -16,9 +16,10 @@ FileDialog OverlayDialog(const Program& program) {
 void ReadOverlay(const std::filesystem::path& path, double limit, const std::function<void(const Row&)>& use) {
   RowReader reader(path);
   reader.ReadLine();
-  while (!reader.AtEnd()) {
+  for (std::size_t rows = 0; !reader.AtEnd(); ++rows) {
     const Row row = reader.ReadRow();
     if (row.first >= limit) return;
+    RequireRoom(rows);
     use(row);
   }
 }

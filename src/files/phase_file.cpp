@@ -1,5 +1,9 @@
 #include "files/phase_file.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <cmath>
 #include <cstdio>
 #include <memory>
@@ -28,6 +32,20 @@ struct FileCloser {
 
 using FilePointer = std::unique_ptr<std::FILE, FileCloser>;
 
+/// Opens a file for writing over its beginning; without waiting, so that a pipe cannot hold the program.
+FilePointer OpenForWritingOver(const std::filesystem::path& path) {
+  const int descriptor = ::open(path.c_str(), O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, 0666);
+  if (descriptor < 0) throw RunTimeError(ErrorNumber::PathAccess);
+  struct stat info {};
+  std::FILE* const file =
+      ::fstat(descriptor, &info) == 0 && S_ISREG(info.st_mode) ? ::fdopen(descriptor, "wb") : nullptr;
+  if (file == nullptr) {
+    ::close(descriptor);
+    throw RunTimeError(ErrorNumber::PathAccess);
+  }
+  return FilePointer(file);
+}
+
 }  // namespace
 
 std::filesystem::path SequencePath(const Program& program, int number) {
@@ -35,9 +53,7 @@ std::filesystem::path SequencePath(const Program& program, int number) {
 }
 
 void StageSequence(const std::filesystem::path& path, const std::string& text) {
-  FilePointer file(std::fopen(path.c_str(), "r+b"));
-  if (!file) file.reset(std::fopen(path.c_str(), "wb"));
-  if (!file) throw RunTimeError(ErrorNumber::PathAccess);
+  FilePointer file = OpenForWritingOver(path);
   const std::string bytes = ToCodePage(text);
   const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
   if (!written || std::fclose(file.release()) != 0) throw RunTimeError(ErrorNumber::DiskFull);
@@ -54,6 +70,7 @@ PhaseCurve ReadSequence(const std::filesystem::path& path) {
   PhaseCurve curve;
   while (!reader.AtEnd()) {
     const Row row = reader.ReadRow();
+    RequireRoom(curve.x.size());
     curve.x.push_back(20 * Log10(row.first) - kPlotShift);
     curve.hertz.push_back(row.first);
     curve.degrees.push_back(row.second);
@@ -74,6 +91,7 @@ bool ImportPhaseTrace(Program& program, PhaseCurve& curve) {
     reader.ReadLine();  // the colour
     while (!reader.AtEnd()) {
       const Row row = reader.ReadRow();
+      RequireRoom(curve.x.size());
       curve.x.push_back(row.first);
       curve.hertz.push_back(Power(10.0, (row.first + kPlotShift) / 20));
       curve.degrees.push_back(row.second);

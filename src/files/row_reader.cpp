@@ -51,40 +51,43 @@ bool RowReader::Refill() {
 
 bool RowReader::AtEnd() { return at_ == size_ && !Refill(); }
 
+/// The characters up to the next one that ends them, or at most the first kilobytes of them.
+template <class Ends>
+std::string RowReader::ReadUntil(Ends ends) {
+  std::string text;
+  while (!AtEnd()) {
+    const auto begin = buffer_.begin() + static_cast<std::ptrdiff_t>(at_);
+    const auto end = buffer_.begin() + static_cast<std::ptrdiff_t>(size_);
+    const auto stop = std::find_if(begin, end, ends);
+    const std::size_t count = static_cast<std::size_t>(stop - begin);
+    text.append(begin, begin + static_cast<std::ptrdiff_t>(std::min(count, kLongestField - text.size())));
+    at_ += count;
+    if (stop != end) break;
+  }
+  return text;
+}
+
 std::string RowReader::ReadLine() {
   if (AtEnd()) throw RunTimeError(ErrorNumber::EndOfFile);
-  std::string line;
-  while (!AtEnd()) {
-    const char c = buffer_[at_++];
-    if (IsLineEnd(c)) {
-      if (c == '\r' && !AtEnd() && Peek() == '\n') ++at_;
-      break;
-    }
-    if (line.size() < kLongestField) line += c;
-  }
+  std::string line = ReadUntil(IsLineEnd);
+  if (AtEnd()) return line;
+  const char c = buffer_[at_++];
+  if (c == '\r' && !AtEnd() && Peek() == '\n') ++at_;
   return line;
 }
 
 void RowReader::SkipBlanks() {
-  while (!AtEnd() && IsBlank(Peek())) ++at_;
+  do {
+    while (at_ < size_ && IsBlank(Peek())) ++at_;
+  } while (at_ == size_ && Refill());
 }
 
 /// Goes past what ended a field.
 void RowReader::SkipSeparator() {
   SkipBlanks();
-  if (AtEnd() || !EndsField(Peek())) return;
+  if (at_ == size_ || !EndsField(Peek())) return;
   const char c = buffer_[at_++];
   if (c == '\r' && !AtEnd() && Peek() == '\n') ++at_;
-}
-
-/// A field of any length and any characters.
-double RowReader::ReadUnusualField() {
-  std::string field;
-  while (!AtEnd() && !EndsField(Peek())) {
-    if (field.size() < kLongestField) field += Peek();
-    ++at_;
-  }
-  return ReadNumber(field);
 }
 
 double RowReader::ReadNumberField() {
@@ -99,7 +102,7 @@ double RowReader::ReadNumberField() {
   if (usual) {
     at_ += static_cast<std::size_t>(stop - begin);
   } else {
-    value = ReadUnusualField();
+    value = ReadNumber(ReadUntil(EndsField));  // of any length and any characters
   }
   SkipSeparator();
   return value;

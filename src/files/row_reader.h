@@ -5,6 +5,7 @@
 // read as a number reads as 0, and only the point is a decimal sign.
 #pragma once
 
+#include <cstddef>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
@@ -12,12 +13,23 @@
 #include <string_view>
 #include <vector>
 
+#include "core/run_time_error.h"
+
 namespace zefirondo {
 
 struct Row {
   double first = 0.0;  // mostly a frequency in Hz
   double second = 0.0;
 };
+
+/// No measurement has more rows: a reading that would keep more of them fails with "Out of memory", so that a file
+/// of any size is met in bounded memory.
+inline constexpr std::size_t kMostRows = (std::size_t{1} << 22U) - 1;
+
+/// Throws `RunTimeError` (out of memory) when there is no room for one more behind so many rows.
+inline void RequireRoom(std::size_t rows) {
+  if (rows >= kMostRows) throw RunTimeError(ErrorNumber::OutOfMemory);
+}
 
 /// Reads a file of any size in bounded memory. Throws `RunTimeError`: what opening a file may throw, and the end
 /// of the file where a field is asked for behind it.
@@ -46,7 +58,8 @@ class RowReader {
   [[nodiscard]] char Peek() const { return buffer_[at_]; }
   void SkipBlanks();
   void SkipSeparator();
-  double ReadUnusualField();
+  template <class Ends>
+  std::string ReadUntil(Ends ends);
 
   std::unique_ptr<std::FILE, Closer> file_;
   double length_ = 0.0;

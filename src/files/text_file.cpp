@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstring>
 #include <system_error>
 
@@ -16,7 +17,11 @@ namespace zefirondo {
 namespace {
 
 constexpr std::size_t kBufferSize = 1U << 16U;
-constexpr int kMostLinks = 40;  // as many as the system follows itself
+constexpr std::size_t kLongestLine = 1U << 20U;  // what follows in a line is passed over
+constexpr int kMostLinks = 40;                   // as many as the system follows itself
+constexpr std::string_view kTemporaryName = ".zefirondo-XXXXXX";
+constexpr std::string_view kTemporaryPrefix = kTemporaryName.substr(0, kTemporaryName.size() - 6);
+constexpr std::chrono::hours kAbandonedAfter{1};  // no save takes so long: its program was killed
 
 struct ErrnoRow {
   int error;
@@ -47,7 +52,7 @@ class TemporaryFile {
  public:
   explicit TemporaryFile(const std::filesystem::path& target) {
     // A name of its own: one made from the target's could be too long for the folder.
-    std::string pattern = (target.parent_path() / ".zefirondo-XXXXXX").string();
+    std::string pattern = (target.parent_path() / kTemporaryName).string();
     descriptor_ = ::mkstemp(pattern.data());
     if (descriptor_ < 0) ThrowErrno(errno);
     path_ = pattern;
@@ -103,6 +108,25 @@ void FlushFolder(const std::filesystem::path& folder) {
   if (descriptor < 0) return;
   static_cast<void>(::fsync(descriptor));
   ::close(descriptor);
+}
+
+bool IsAbandoned(const std::filesystem::directory_entry& entry) {
+  const std::string name = entry.path().filename().string();
+  if (!name.starts_with(kTemporaryPrefix) || name.size() != kTemporaryName.size()) return false;
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(entry.symlink_status(error))) return false;
+  const auto written = entry.last_write_time(error);
+  return !error && written < std::filesystem::file_time_type::clock::now() - kAbandonedAfter;
+}
+
+/// Removes what saves left in a folder that were killed on their way. They hinder nobody: a failure is ignored.
+void RemoveAbandoned(const std::filesystem::path& folder) {
+  std::error_code error;
+  std::vector<std::filesystem::path> abandoned;
+  for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+    if (IsAbandoned(*entry)) abandoned.push_back(entry->path());
+  }
+  for (const std::filesystem::path& path : abandoned) std::filesystem::remove(path, error);
 }
 
 /// Follows a link to what it points to, which need not exist; a circle of links has no end.
@@ -172,7 +196,7 @@ std::string LineReader::ReadLine() {
     const char* const begin = buffer_.data() + at_;
     const char* const end = buffer_.data() + size_;
     const char* const stop = std::find_if(begin, end, [](char c) { return c == '\r' || c == '\n'; });
-    line.append(begin, stop);
+    line.append(begin, std::min(static_cast<std::size_t>(stop - begin), kLongestLine - line.size()));
     at_ = static_cast<std::size_t>(stop - buffer_.data());
     if (stop == end) continue;
     const bool carriage_return = *stop == '\r';
@@ -191,6 +215,7 @@ void WriteWholeFile(const std::filesystem::path& path, std::string_view bytes) {
   temporary.TakeMode(target);
   temporary.TakePlace(target);
   FlushFolder(target.parent_path());
+  RemoveAbandoned(target.parent_path());
 }
 
 }  // namespace zefirondo

@@ -17,7 +17,8 @@ class LineReader {
   /// regular file.
   explicit LineReader(const std::filesystem::path& path);
 
-  /// The next line in the bytes of the file, without its end: carriage return, line feed, or both.
+  /// The next line in the bytes of the file, without its end: carriage return, line feed, or both. It
+  /// keeps at most the first megabyte of a line.
   /// Throws `RunTimeError` (end of file) behind the last one.
   std::string ReadLine();
 
@@ -38,7 +39,8 @@ class LineReader {
 [[nodiscard]] std::FILE* OpenRegularFile(const std::filesystem::path& path);
 
 /// Writes a file whole or not at all: into a new file beside it, flushed, which then takes its place in one
-/// rename. Throws `RunTimeError`; the earlier file is then as it was.
+/// rename. Throws `RunTimeError`; the earlier file is then as it was. A program that is killed on the way leaves
+/// the new file beside the old one; a save that goes well removes such files once they are an hour old.
 void WriteWholeFile(const std::filesystem::path& path, std::string_view bytes);
 
 }  // namespace zefirondo

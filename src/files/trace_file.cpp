@@ -60,6 +60,7 @@ Trace ReadTrace(const std::filesystem::path& path) {
   trace.colour = ToColour(reader.ReadNumberField());
   while (!reader.AtEnd()) {
     const Row row = reader.ReadRow();
+    RequireRoom(trace.x.size());
     trace.x.push_back(row.first);
     trace.y.push_back(row.second);
   }

@@ -35,6 +35,7 @@ class QueuedPlatform : public Platform {
   // What a script asks for.
   std::vector<std::pair<std::string, std::string>> store;
   std::vector<Page> pages;
+  int progress_updates = 0;  // how often a long work has shown how far it is
 
   /// What is still queued, in words; empty when all was used.
   [[nodiscard]] std::string LeftOver() const;
@@ -52,7 +53,7 @@ class QueuedPlatform : public Platform {
   void ShowHelp(const std::filesystem::path& file) override;
   std::filesystem::path InformationTool() override { return {}; }
   bool StartTool(const std::filesystem::path& tool) override;
-  void ShowProgress() override {}
+  void ShowProgress() override { ++progress_updates; }
   void EndProgram(bool failed) override;
 
  private:

@@ -22,9 +22,12 @@ constexpr double kAroundExpected = 10.0;   // Hz
 /// The steps of the search, in the order in which they run.
 class Search {
  public:
-  Search(const Curve& hertz, const Curve& ohm, const RowCount& count) : f_(hertz), z_(ohm), count_(count) {}
+  Search(const Curve& hertz, const Curve& ohm, const ShowSteps& show) : f_(hertz), z_(ohm), show_(show) {}
 
   ImpedancePoints points;
+
+  /// One row of one pass is done.
+  void Step() { show_(++steps_); }
 
   /// Of equal peaks the first in file order wins.
   void TakePeak(double f, double z) {
@@ -39,7 +42,7 @@ class Search {
     points.Zmin = kLargestMinimum;
     for (std::size_t i = 0; i < f_.size(); ++i) {
       if (f_[i] <= kHighest && z_[i] < points.Zmin && f_[i] > points.Fs) points.Zmin = z_[i];
-      count_();
+      Step();
     }
   }
 
@@ -51,7 +54,7 @@ class Search {
   void FindUpper() {
     previous_ = f_.size() - 1;
     for (std::size_t i = 0; i < f_.size(); ++i) {
-      count_();
+      Step();
       const bool falls = z_[i] <= points.Zc && points.Zc <= z_[previous_];
       if (f_[previous_] <= kHighest && falls && f_[previous_] > points.Fs) {
         points.Fh = (f_[previous_] + f_[i]) / 2;
@@ -65,7 +68,7 @@ class Search {
   void FindLower() {
     const double expected = Divide(points.Fs * points.Fs, points.Fh);
     for (std::size_t i = 0; i < f_.size(); ++i) {
-      count_();
+      Step();
       const bool rises = z_[previous_] <= points.Zc && points.Zc <= z_[i];
       const bool near = expected - kAroundExpected < f_[previous_] && f_[previous_] < expected + kAroundExpected;
       if (near && rises && f_[previous_] < points.Fs) {
@@ -82,7 +85,8 @@ class Search {
  private:
   const Curve& f_;
   const Curve& z_;
-  const RowCount& count_;
+  const ShowSteps& show_;
+  std::size_t steps_ = 0;
   double root_ = 0.0;
   std::size_t previous_ = 0;
 };
@@ -101,26 +105,27 @@ double EstimateSteps(double length) {
   return 0;
 }
 
-/// Moves the bar of the sheet; the screen hears of whole percents only.
+/// Moves the bar of the sheet; the screen hears of each whole percent once.
 class Progress {
  public:
-  Progress(Program& program, double steps) : program_(program), steps_(steps) {}
+  Progress(Program& program, double estimate) : program_(program), estimate_(estimate) {}
 
-  void Step() {
-    ++count_;
-    if (count_ < next_) return;
-    const double percent = RoundHalfEven(Divide(count_ * 100, steps_));
-    next_ = (percent + 0.5) * steps_ / 100;
-    if (percent >= 100) return;
+  void Show(std::size_t steps) {
+    const auto count = static_cast<double>(steps);
+    if (count < next_) return;
+    const double percent = RoundHalfEven(Divide(count * 100, estimate_));
+    next_ = (percent + 0.5) * estimate_ / 100;
+    if (percent >= 100 || percent == shown_) return;
+    shown_ = percent;
     program_.windows.frmthsm.prgbar.progress = static_cast<int>(percent);
     program_.platform.ShowProgress();
   }
 
  private:
   Program& program_;
-  double steps_;
-  double count_ = 0;
+  double estimate_;
   double next_ = 0;  // the count from which the percentage may be another one
+  double shown_ = -1;
 };
 
 FileDialog MeasurementDialog(const Program& program) {
@@ -131,14 +136,14 @@ FileDialog MeasurementDialog(const Program& program) {
   return dialog;
 }
 
-void ReadMeasurement(Program& program, Search& search, Progress& progress, RowReader& reader) {
+void ReadMeasurement(Program& program, Search& search, RowReader& reader) {
   ProjectState& s = program.state;
   reader.ReadLine();
   ImpedanceStore store(s.ImpFreq, s.ImpZ);
   ReadImpedanceRows(reader, [&](const Row& row) {
     store.Add(row);
     search.TakePeak(row.first, row.second);
-    progress.Step();
+    search.Step();
   });
   if (store.IsEmpty()) throw RunTimeError(ErrorNumber::IndexOutOfRange);  // no row was kept
 }
@@ -169,9 +174,9 @@ void Import(Program& program, const std::filesystem::path& path) {
   sheet.prgbar.visible = true;
   RowReader reader(path);
   Progress progress(program, EstimateSteps(reader.length()));
-  const RowCount count = [&] { progress.Step(); };
-  Search search(s.ImpFreq, s.ImpZ, count);
-  ReadMeasurement(program, search, progress, reader);
+  const ShowSteps show = [&](std::size_t steps) { progress.Show(steps); };
+  Search search(s.ImpFreq, s.ImpZ, show);
+  ReadMeasurement(program, search, reader);
   search.FindMinimum();
   search.FindLevel(ReadNumber(s.txtrvc));
   AssignNumber(program, sheet.txtzmin, search.points.Zmin);
@@ -182,12 +187,12 @@ void Import(Program& program, const std::filesystem::path& path) {
 
 }  // namespace
 
-ImpedancePoints FindImpedancePoints(const Curve& hertz, const Curve& ohm, double rvc, const RowCount& count) {
+ImpedancePoints FindImpedancePoints(const Curve& hertz, const Curve& ohm, double rvc, const ShowSteps& show) {
   if (hertz.empty() || ohm.size() < hertz.size()) throw RunTimeError(ErrorNumber::IndexOutOfRange);
-  Search search(hertz, ohm, count);
+  Search search(hertz, ohm, show);
   for (std::size_t i = 0; i + 1 < hertz.size(); ++i) {
     search.TakePeak(hertz[i], ohm[i]);
-    count();
+    search.Step();
   }
   search.FindMinimum();
   search.FindLevel(rvc);

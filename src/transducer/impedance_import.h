@@ -22,14 +22,14 @@ struct ImpedancePoints {
   double Qms = 0.0;
 };
 
-/// Counts the rows that the passes go through; called once a row.
-using RowCount = std::function<void()>;
+/// Hears of every row of every pass, with the running count of such steps.
+using ShowSteps = std::function<void(std::size_t steps)>;
 
 /// The search over a curve whose arrays have their zero slot behind the last row; `rvc` in ohm. Throws
 /// `RunTimeError` (division by zero) for `rvc` = 0, for a curve without a falling crossing above the peak, and
 /// for Fl = Fh.
 [[nodiscard]] ImpedancePoints FindImpedancePoints(const Curve& hertz, const Curve& ohm, double rvc,
-                                                  const RowCount& count);
+                                                  const ShowSteps& show);
 
 /// Imports a measurement: dialog, reading, search, fields.
 void ImportImpedance(Program& program);

@@ -256,7 +256,7 @@ Acoustic TsAcustici(double sd, double cms, double mms, double rms, double roo, d
   acoustic.cas = sd * sd * cms;
   acoustic.mas = Divide(mms, sd * sd);
   acoustic.ras = Divide(rms, sd * sd);
-  acoustic.vas = roo * acoustic.cas * (velocity * velocity);
+  acoustic.vas = Finite(roo * acoustic.cas * (velocity * velocity));
   return acoustic;
 }
 

@@ -140,5 +140,73 @@ TEST_P(TheChart, WithoutVasKeepsTheDesign) {
   EXPECT_TRUE(desk.Runs());
 }
 
+TEST_P(TheChart, ShowsItsRatiosInLightGrey) {
+  Open();
+  EXPECT_EQ(desk["frmalfa.txtVbsuVas"].back, 224 * 65793);  // red, green and blue 224
+  EXPECT_EQ(desk["frmalfa.txtFbSuFs"].back, 224 * 65793);
+  EXPECT_EQ(desk.program.windows.frmalfa.window.caption, "Vas/Vb");
+}
+
+TEST_P(TheChart, ShowsTheRatiosUnroundedAndKeepsThemRounded) {
+  desk.state.Vb = 0.0654321;
+  desk.state.Fb = 33.3333333;  // of 35 Hz: 0.952380951
+  Open();
+  const double a = 0.0654321 / ReadNumber(desk.Text("txtvas"));
+  EXPECT_EQ(desk.Text("frmalfa.txtVbsuVas"), FormatNumber(a));
+  EXPECT_EQ(desk.Text("frmalfa.txtFbSuFs"), "0.95238");
+  EXPECT_NEAR(desk.state.AlfaValue, a, 5e-5);
+  EXPECT_EQ(desk.state.AlfaSecond, 0.9524);
+}
+
+TEST_P(TheChart, ClosedByItsCloseBoxChangesNothing) {
+  Open();
+  const double before = desk.state.Vb;
+  desk.Click("frmalfa.VbSuVas260");
+  CloseBox(desk.program, desk.program.windows.frmalfa.window);
+  EXPECT_EQ(desk.state.Vb, before);
+  EXPECT_FALSE(desk.program.windows.frmalfa.window.open);
+}
+
+// Away from the page of the box the row is not applied: what stands in the record is written again.
+TEST_P(TheChart, AppliesARowOnTheVentedPageAlone) {
+  Open();
+  const double vb = desk.state.Vb;
+  const double fb = desk.state.Fb;
+  desk.sheet.selected_tab = "par";
+  desk.Click("frmalfa.VbSuVas260");
+  desk.Click("frmalfa.cmdok");
+  EXPECT_NEAR(desk.state.Vb, vb, vb * 1e-5);
+  EXPECT_EQ(desk.state.Fb, fb);
+  EXPECT_EQ(desk.Text("txtfb"), FormatNumber(fb));
+  EXPECT_NE(desk.state.AlfaValue, 2.6);
+}
+
+// The volume of the row is the one that stands there: the recomputation stops at it, and the curve is left alone.
+TEST_P(TheChart, StopsAtTheSameVolume) {
+  Apply("VbSUVas707");
+  desk.Leave();
+  desk.state.BoxDb = {1, 2, 3, 0};
+  Apply("VbSUVas707");
+  EXPECT_EQ(desk.state.BoxDb, (Curve{1, 2, 3, 0}));
+  Apply("VbSuVas260");
+  EXPECT_EQ(desk.state.BoxDb.size(), 6828U);
+}
+
+// The resonance of an import goes before the field.
+TEST_P(TheChart, TakesTheMeasuredResonanceFirst) {
+  desk.state.Fs = 40;
+  Apply("VbSUVas179");
+  EXPECT_NEAR(desk.state.Fb, 40 * 0.757, 1e-9);
+  EXPECT_NEAR(desk.state.F3v, 40 * 0.641, 1e-9);
+}
+
+TEST_P(TheChart, OpensWithoutVas) {
+  desk.state.txtvas.clear();
+  Open();
+  EXPECT_TRUE(desk.Runs());
+  EXPECT_EQ(Selected(), 0);
+  EXPECT_EQ(desk.TakeOut(), "");
+}
+
 }  // namespace
 }  // namespace zefirondo

@@ -90,6 +90,32 @@ TEST(BoxTypeWords, AreTheSameInItalianButForTheTab) {
   desk.Pick("frmbox.cmbtipobox", "Closed");
   desk.Click("frmbox.cmdok");
   EXPECT_EQ(desk.sheet.selected_tab, "chi");
+  EXPECT_EQ(desk.sheet.tabs[3].caption, "Box Chiuso");
+}
+
+TEST(BoxTypeWords, OfAVentedBoxAreOnItsTab) {
+  BoxDesk desk(Language::Italian);
+  desk.BeginParameters();
+  desk.FillWoofer();
+  desk.platform.answers.push_back(Answer::No);
+  desk.Click("cmdcalcola");
+  desk.Click("frmbox.cmdok");
+  EXPECT_EQ(desk.sheet.selected_tab, "ref");
+  EXPECT_EQ(desk.sheet.tabs[3].caption, "Box Reflex");
+}
+
+// The window does not block: the steps that close the computation have run when it comes up.
+TEST_F(BoxType, ComesUpOverAFinishedComputation) {
+  EXPECT_TRUE(desk["txtfs"].locked);
+  EXPECT_EQ(desk.sheet.selected_tab, "par");
+  EXPECT_TRUE(desk.Tab("dim").Done());
+  EXPECT_TRUE(IsOpen());
+}
+
+TEST_F(BoxType, ShowsItsEbpInAFieldThatCannotBeTypedInto) {
+  EXPECT_TRUE(desk["frmbox.txtebp"].locked);
+  desk.Type("frmbox.txtebp", "1");
+  EXPECT_EQ(desk.Text("frmbox.txtebp"), "77.7777");
 }
 
 }  // namespace

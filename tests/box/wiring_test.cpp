@@ -67,5 +67,30 @@ TEST_F(WiringDialog, OfOneWooferIsNotAskedFor) {
   EXPECT_EQ(desk.state.DriversNum, 1);
 }
 
+TEST_F(WiringDialog, DoesNotBlock) {
+  desk.Pick("cmbnumdriver", "2");
+  EXPECT_TRUE(desk.Tab("gen").Done());
+  EXPECT_TRUE(window().open);
+  EXPECT_EQ(desk.TakeOut(), "");
+}
+
+TEST_F(WiringDialog, WithoutAnOptionKeepsTheWiringAndTakesTheNumber) {
+  desk.state.WooferWiring = "star";  // as a file may bring it
+  desk.Pick("cmbnumdriver", "2");
+  desk.platform.answers.assign(1, Answer::Yes);
+  desk.Click("frmwooferconn.Command1");
+  EXPECT_EQ(desk.state.WooferWiring, "star");
+  EXPECT_EQ(desk.state.DriversNum, 2);
+  EXPECT_FALSE(window().open);
+}
+
+TEST_F(WiringDialog, HasOneOptionAtATime) {
+  desk.Pick("cmbnumdriver", "2");
+  desk.Click("frmwooferconn.optserie");
+  EXPECT_FALSE(desk["frmwooferconn.optbiamp"].checked || desk["frmwooferconn.optparallelo"].checked);
+  desk.Click("frmwooferconn.optparallelo");
+  EXPECT_FALSE(desk["frmwooferconn.optbiamp"].checked || desk["frmwooferconn.optserie"].checked);
+}
+
 }  // namespace
 }  // namespace zefirondo

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/acts.h"
 #include "core/window_life.h"
 #include "support/desk.h"
 
@@ -155,32 +156,92 @@ TEST_F(Options, LiveUntilAProjectEnds) {
   EXPECT_EQ(desk.state.WoodThickness, 18);
 }
 
-struct CaptionRow {
-  const char* control;
-  const char* english;
-};
-
-TEST_F(Options, HaveTheirCaptions) {
+TEST_F(Options, FilterTheKeysOfTheResistance) {
   Open();
+  const std::string number = "message stop \"Error\" \"Warning: Inputs must be a number\" [OK] -> OK\n";
+  desk.Set("frmopzioni.txtrs", "");
+  desk.Type("frmopzioni.txtrs", "1,25");
+  EXPECT_EQ(desk.Text("frmopzioni.txtrs"), "1.25");  // a comma is a point
+  EXPECT_EQ(desk.TakeOut(), "");
+  desk.Type("frmopzioni.txtrs", "-x.");
+  EXPECT_EQ(desk.Text("frmopzioni.txtrs"), "1.25");
+  EXPECT_EQ(desk.TakeOut(), number + number + number);
+}
+
+TEST_F(Options, FilterTheKeysOfTheThicknessWithWordsOfTheirOwn) {
+  const std::string number = "message stop \"Error\" \"Warning: Inputs must be a number\" [OK] -> OK\n";
+  const std::string integer = "message stop \"Error\" \"Warning! Enter a integer numeric value\" [OK] -> OK\n";
+  Open();
+  desk.Set("frmopzioni.txtspessore", "");
+  desk.Type("frmopzioni.txtspessore", "1,8x-");
+  EXPECT_EQ(desk.Text("frmopzioni.txtspessore"), "18");
+  EXPECT_EQ(desk.TakeOut(), integer + integer + integer);
+  desk.Type("frmopzioni.txtspessore", ".5");
+  EXPECT_EQ(desk.Text("frmopzioni.txtspessore"), "18.5");  // a first point is accepted, in spite of the words
+  desk.Type("frmopzioni.txtspessore", ".");
+  EXPECT_EQ(desk.TakeOut(), integer);
+  desk.Set("frmopzioni.txtspessore", "0");
+  desk.Type("frmopzioni.txtspessore", "5");
+  EXPECT_EQ(desk.Text("frmopzioni.txtspessore"), "0");
+  EXPECT_EQ(desk.TakeOut(), number);  // behind a leading 0 it says what every field says
+}
+
+TEST_F(Options, SelectWhatTheirFieldsHold) {
+  Open();
+  desk.Focus("frmopzioni.txtspessore");
+  EXPECT_EQ(desk["frmopzioni.txtspessore"].selection_length, 2U);
+  desk.Focus("frmopzioni.txtrs");
+  EXPECT_EQ(desk["frmopzioni.txtrs"].selection_length, 3U);
+}
+
+TEST_F(Options, AreOpenedBeforeThereIsAProject) {
+  EXPECT_FALSE(desk.program.FindWindow("frmthsm")->open);
+  EXPECT_TRUE(desk.Choose("mdithsm.mnuopzioni").Done());
+  EXPECT_TRUE(IsOpen());
+}
+
+TEST_F(Options, ClosedByTheCloseBoxTakeNothingOver) {
+  Open();
+  desk.Click("frmopzioni.optserie");
+  CloseBox(desk.program, desk.program.windows.frmopzioni.window);
+  EXPECT_FALSE(IsOpen());
+  EXPECT_EQ(desk.state.WooferWiring, "biamp");
+}
+
+TEST_F(Options, TakeOverAThicknessThatRoundsToNothing) {
+  Open();
+  desk.Set("frmopzioni.txtspessore", "0.4");  // it does not read as 0
+  desk.Click("frmopzioni.cmdok");
+  EXPECT_EQ(desk.state.WoodThickness, 0);
+  EXPECT_FALSE(IsOpen());
+  EXPECT_EQ(desk.TakeOut(), "");
+}
+
+TEST_F(Options, AThicknessBeyondAnIntegerEndsTheProgram) {
+  Open();
+  desk.Set("frmopzioni.txtspessore", "40000");
+  desk.Click("frmopzioni.cmdok");
+  EXPECT_EQ(desk.program.run, RunState::EndedByFailure);  // nothing catches it
+  EXPECT_NE(desk.TakeOut().find("Overflow"), std::string::npos);
+}
+
+TEST(OptionWords, AreItalianToo) {
+  Desk desk(Language::Italian);
+  desk.Begin();
+  desk.Choose("mdithsm.mnuopzioni");
+  *desk["frmopzioni.txtrs"].text = "";
+  desk.program.focus = nullptr;
+  desk.Click("frmopzioni.cmdok");
+  *desk["frmopzioni.txtrs"].text = "0.1";
+  *desk["frmopzioni.txtspessore"].text = "";
+  desk.program.focus = nullptr;
+  desk.Click("frmopzioni.cmdok");
   OpenWindow(desk.program, "frmwooferconn");
-  for (const CaptionRow& row : {
-           CaptionRow{"frmopzioni.fracollegamento", "Project with more woofer in the same volume"},
-           {"frmopzioni.lblcollegamento", "Connecting the amplifier to the woofers"},
-           {"frmopzioni.optbiamp", "One woofer for each channel of the amplifier"},
-           {"frmopzioni.optparallelo", "Woofers connected in parallel to  one amplifier channel"},
-           {"frmopzioni.optserie", "Woofers connected in series to  one amplifier channel"},
-           {"frmopzioni.fraRsorgente", "Amplifier output Resistance"},
-           {"frmopzioni.fraspessore", "Thickness of the wooden Box"},
-           {"frmopzioni.lblspessore", "Thickness"},
-           {"frmopzioni.mnuchiudi", "&Close Project Options"},
-           {"frmwooferconn.fracollegamento", "Project with more than one woofer"},
-           {"frmwooferconn.lblwarn1", "WARNING! To each woofer will be applied the same power rating"},
-           {"frmwooferconn.mnuchiudi", "&Close Wooofers Wiring"},
-       }) {
-    EXPECT_EQ(desk.Text(row.control), row.english) << row.control;
-  }
-  EXPECT_EQ(desk.program.windows.frmopzioni.window.caption, "Project Options");
-  EXPECT_EQ(desk.program.windows.frmwooferconn.window.caption, "Wooofers Wiring");
+  CloseBox(desk.program, desk.program.windows.frmwooferconn.window);
+  EXPECT_EQ(desk.TakeOut(),
+            "message stop \"Errore\" \"Specificare un valore per Rs\" [OK] -> OK\n"
+            "message stop \"Errore\" \"Specificare un valore per lo Spessore maggiore di zero\" [OK] -> OK\n"
+            "message stop \"Errore\" \"Non è possibile chiudere questa finestra\" [OK] -> OK\n");
 }
 
 }  // namespace

@@ -70,6 +70,13 @@ TEST(LineReader, JoinsWhatStandsInTwoBuffers) {
   }
 }
 
+TEST(LineReader, KeepsTheFirstMegabyteOfALine) {
+  const TemporaryFolder folder;
+  const std::string kept(1 << 20, 'x');
+  EXPECT_EQ(LinesOf(folder.Write("a", kept + std::string(1500000, 'y') + "\r\nb\n" + kept + "z")),
+            (std::vector<std::string>{kept, "b", kept}));
+}
+
 TEST(LineReader, TellsWhyAFileCannotBeOpened) {
   const TemporaryFolder folder;
   const std::filesystem::path plain = folder.Write("plain", "x");

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "support/desk.h"
+#include "support/bad_files.h"
 
 namespace zefirondo {
 namespace {
@@ -138,6 +138,13 @@ TEST_F(DataImport, FailsAtAFileThatIsNone) {
   EXPECT_EQ(Import(desk.folder.path() / "folder.wdr"), told("Path/File access error"));
   ASSERT_EQ(::mkfifo((desk.folder.path() / "pipe.wdr").c_str(), 0600), 0);
   EXPECT_EQ(Import(desk.folder.path() / "pipe.wdr"), told("Path/File access error"));
+}
+
+// Two bytes a character: each line gives two, the second of which is a NUL, and so line 30 has no diameter.
+TEST_F(DataImport, InTwoBytesACharacterReadsNoNumbers) {
+  EXPECT_EQ(Import(desk.folder.Write("d.wdr", InUtf16(WdrText()))), "");
+  EXPECT_TRUE(desk.state.DataImported);
+  EXPECT_EQ(desk.Text("txtd"), "0");
 }
 
 TEST_F(DataImport, FailsAtANumberBeyondTheDecimals) {

@@ -68,7 +68,7 @@ constexpr auto kPoints = std::to_array<std::pair<const char*, double ImpedancePo
 
 std::optional<ImpedancePoints> Found(const Curve& f, const Curve& z, double rvc) {
   try {
-    return FindImpedancePoints(f, z, rvc, [] {});
+    return FindImpedancePoints(f, z, rvc, [](std::size_t) {});
   } catch (const RunTimeError& error) {
     EXPECT_EQ(error.number(), 11);
     return std::nullopt;
@@ -121,11 +121,13 @@ TEST(FindImpedancePoints, FindsWhatThePlainSearchFinds) {
 }
 
 TEST(FindImpedancePoints, CountsEveryRowOfEveryPass) {
-  int count = 0;
+  std::vector<std::size_t> counts;
   // The level is √(40/10) · 10 = 20. 5 rows and the zero slot: 5, 6, then 3 pairs up to the crossing 30–40, which
   // lands on the level itself, and all 6 for no rising one.
-  const auto points = FindImpedancePoints({20, 30, 40, 80, 90, 0}, {40, 40, 20, 5, 5, 0}, 10, [&] { ++count; });
-  EXPECT_EQ(count, 5 + 6 + 3 + 6);
+  const auto points = FindImpedancePoints({20, 30, 40, 80, 90, 0}, {40, 40, 20, 5, 5, 0}, 10,
+                                          [&](std::size_t steps) { counts.push_back(steps); });
+  ASSERT_EQ(counts.size(), 5U + 6 + 3 + 6);
+  for (std::size_t i = 0; i < counts.size(); ++i) EXPECT_EQ(counts[i], i + 1);
   EXPECT_EQ(points.Fs, 20);  // of two equal peaks the first in file order
   EXPECT_EQ(points.Fh, 35);
   EXPECT_EQ(points.Fl, 0);
