@@ -2,11 +2,13 @@
 # Compares the desktop program with an empty multi-document window of 60 fields: the time to a visible window, and
 # the resident memory a second later, in alternating runs under Xvfb. Needs xvfb and xdotool.
 #
-# usage: bench/start.sh [BIN_FOLDER] [PROJECT]
+# usage: bench/start.sh [BIN_FOLDER] [PROJECT [graphs]]
+# With "graphs", every graph of the project is opened before its memory is read.
 set -eu
 bin=$(realpath "${1:-build/release/bin}")
 project=${2:-}
 [ -z "$project" ] || project=$(realpath "$project")
+graphs=${3:-}
 export DISPLAY=:83 XDG_RUNTIME_DIR=/tmp LC_ALL=C.UTF-8 QT_QPA_PLATFORM=xcb
 home=$(mktemp -d)
 Xvfb :83 -screen 0 1280x1024x24 >/dev/null 2>&1 &
@@ -24,6 +26,16 @@ start() {
   xdotool search --sync --onlyvisible --name "^$title\$" >/dev/null
   local end=$(date +%s%N)
   sleep 1
+  if [ -n "$graphs" ] && [ "$title" = Zefirondo ]; then
+    xdotool search --onlyvisible --name "^$title\$" windowfocus
+    for letter in s m e a p; do # level, maximum level, excursion, air speed, phase: each menu leads to the others
+      xdotool key alt+s
+      sleep 0.2
+      xdotool key $letter
+      sleep 0.3
+    done
+    [ -z "${PICTURE:-}" ] || import -window root "$PICTURE"
+  fi
   echo "$(((end - begin) / 1000000)) $(awk '/VmRSS/ {print $2}' /proc/$pid/status)"
   kill $pid
   wait $pid 2>/dev/null || true

@@ -25,6 +25,7 @@ constexpr int kLookForBoxes = 5;  // ms
 }  // namespace
 
 std::optional<std::filesystem::path> DeskPlatform::ChooseFile(const FileDialog& /*dialog*/) {
+  if (on_answer) on_answer();
   if (files.empty()) return std::nullopt;
   const std::filesystem::path file = files.front();
   files.pop_front();

@@ -7,6 +7,7 @@
 #include <QTest>
 #include <QTimer>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -24,6 +25,7 @@ class DeskPlatform : public QtPlatform {
   using QtPlatform::QtPlatform;
 
   std::deque<std::filesystem::path> files;
+  std::function<void()> on_answer;  // called when a file dialog is answered
 
   double ScreenWidth() override { return 1920 * 15.0; }
   Date Today() override { return {1, 2, 2024}; }

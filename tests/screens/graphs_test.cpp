@@ -199,7 +199,8 @@ void GraphsTest::AMeasurementBecomesABox() {
   QCOMPARE(desk.Text("txtmodello"), "T26");
   desk.platform.files.push_back(Example("tramontana-26.ovl"));
   desk.ChooseEntry("mnuimporta");
-  QVERIFY2(desk.boxes.empty(), desk.boxes.empty() ? "" : qPrintable(desk.boxes[0].text));
+  QCOMPARE(desk.boxes.size(), 1U);  // data and measurement must be of one woofer
+  QCOMPARE(desk.boxes[0].icon, QMessageBox::Warning);
   QVERIFY(desk.platform.files.empty());
   QVERIFY(!desk.Text("txtfs").isEmpty());
   QVERIFY(desk.View("frmgrafico") != nullptr);
@@ -209,8 +210,8 @@ void GraphsTest::AMeasurementBecomesABox() {
   desk.ClickTab(italian ? "Parametri" : "Parameters");
   desk.AnswerByKey(Qt::Key_Return);
   desk.Click("cmdcalcola");
-  QCOMPARE(desk.boxes.size(), 1U);
-  QVERIFY(desk.boxes[0].title.startsWith("EBP"));
+  QCOMPARE(desk.boxes.size(), 2U);
+  QVERIFY(desk.boxes[1].title.startsWith("EBP"));
   QVERIFY(desk.View("frmgrafcassa")->isVisible());
 
   desk.Click("frmgrafcassa.cmdset1");
@@ -245,7 +246,7 @@ void GraphsTest::TheImportPaintsItsBarSeldom() {
   desk.ChooseEntry("mnuimportadati");
   desk.platform.files.push_back(Example("tramontana-26.ovl"));
   desk.ChooseEntry("mnuimporta");
-  QVERIFY2(updates >= 3 && updates <= 100, qPrintable(QString::number(updates)));
+  QVERIFY2(updates >= 1 && updates <= 100, qPrintable(QString::number(updates)));
   QVERIFY(last > 0);
   QVERIFY(!bar->isVisible());
 }
