@@ -1,6 +1,8 @@
 #include "runner/words.h"
 
 #include <array>
+#include <charconv>
+#include <cmath>
 #include <cstddef>
 #include <cstdio>
 
@@ -59,6 +61,27 @@ std::vector<std::string> SplitWords(std::string_view line) {
     while (at < line.size() && !IsBlank(line[at])) ++at;
     words.emplace_back(line.substr(begin, at - begin));
   }
+}
+
+std::string Joined(Words words) {
+  std::string text;
+  for (const std::string& word : words) text += (text.empty() ? "" : " ") + word;
+  return text;
+}
+
+double ReadScriptNumber(const std::string& word) {
+  double value = 0.0;
+  const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), value);
+  if (error != std::errc() || end != word.data() + word.size() || !std::isfinite(value)) {
+    throw ScriptError(word + " is no number");
+  }
+  return value;
+}
+
+double ReadIndex(const std::string& word) {
+  const double index = ReadScriptNumber(word);
+  if (index < 0 || index != std::floor(index)) throw ScriptError(word + " is no index");
+  return index;
 }
 
 std::string Quoted(std::string_view text) {
