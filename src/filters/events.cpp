@@ -1,7 +1,7 @@
 #include "filters/events.h"
 
 #include "filters/filter_designer.h"
-#include "filters/phase_offset.h"
+#include "filters/phase_tool.h"
 #include "filters/summation.h"
 
 namespace zefirondo {
@@ -9,7 +9,7 @@ namespace zefirondo {
 void ConnectFilters(Program& program) {
   ConnectFilterDesigner(program);
   ConnectSummation(program);
-  ConnectPhaseOffset(program);
+  ConnectPhaseTool(program);
 }
 
 }  // namespace zefirondo

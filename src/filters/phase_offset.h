@@ -1,7 +1,7 @@
 // The phase offset of two measured curves, and the delay that aligns them.
 #pragma once
 
-#include "core/program.h"
+#include "core/project_state.h"
 
 namespace zefirondo {
 
@@ -26,10 +26,5 @@ struct PhaseOffset {
 
 /// The degrees of a curve after a delay. Throws `RunTimeError` (index) for an empty curve.
 [[nodiscard]] Curve ApplyDelay(const Curve& degrees, const Curve& hertz, double milliseconds);
-
-/// Resets the tool: files, curves, traces, buttons, clipboard.
-void CancellaTutto(Program& program);
-
-void ConnectPhaseOffset(Program& program);
 
 }  // namespace zefirondo
