@@ -5,6 +5,7 @@
 
 #include "screens/looks.h"
 #include "screens/plot_widget.h"
+#include "screens/qt_text.h"
 
 namespace zefirondo::screens {
 namespace {
@@ -46,7 +47,11 @@ PlotPanel* AddGraph(Binder& binder, QWidget* content, QVBoxLayout& column, const
   panel->plot()->setObjectName(QString::fromStdString(graph.plot.FullName()));
   binder.Bind(graph.plot, panel->plot());
   const Control* const readout = graph.plot.readout;
-  binder.Follow([panel, readout] { panel->ShowSurface(*readout); });
+  const Control* const title = &graph.title;
+  binder.Follow([panel, readout, title] {
+    panel->ShowSurface(*readout);
+    panel->plot()->setAccessibleName(Spoken(*title->text));
+  });
   column.addWidget(panel, 1);
   column.addWidget(MakeCentred(binder, graph.frequency, content, false));
   return panel;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "screens/form.h"
+#include "screens/qt_text.h"
 
 namespace zefirondo::screens {
 namespace {
@@ -82,6 +83,8 @@ class PlainForm {
       return 0;
     }
     FormOf(option).Row(widget, *field, *unit);
+    QWidget* const chosen = binder_.Find(*field)->widget;
+    binder_.Follow([&option, chosen] { chosen->setAccessibleName(Spoken(*option.text)); });
     return 2;
   }
 

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDate>
-#include <QDesktopServices>
+#include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
@@ -13,12 +13,12 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QStandardPaths>
-#include <QUrl>
 #include <array>
 #include <string_view>
 
 #include "core/run_time_error.h"
 #include "screens/association.h"
+#include "screens/manual_viewer.h"
 #include "screens/printing.h"
 #include "screens/qt_text.h"
 
@@ -26,6 +26,7 @@ namespace zefirondo::screens {
 namespace {
 
 constexpr double kTwipsPerPixel = 15.0;
+constexpr qint64 kProgressPause = 50;  // ms
 constexpr std::array kInformationTools{"hardinfo2", "hardinfo", "kinfocenter", "gnome-system-monitor"};
 constexpr std::string_view kCommandKey = "\\shell\\open\\command";
 
@@ -147,6 +148,7 @@ std::optional<PrintChoice> QtPlatform::ChoosePrinter() {
   if (!printer_) {
     printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
     printer_->setCreator(QStringLiteral("Zefirondo"));
+    printer_->setDocName(QStringLiteral("Zefirondo"));
   }
   SetUpPaper(*printer_);
   QPrintDialog dialog(printer_.get(), window_);
@@ -157,7 +159,6 @@ std::optional<PrintChoice> QtPlatform::ChoosePrinter() {
 
 void QtPlatform::Print(const std::vector<Page>& pages, const PrintChoice& /*choice*/) {
   if (!printer_) throw RunTimeError(ErrorNumber::DeviceError);
-  printer_->setDocName(QStringLiteral("Zefirondo"));
   PrintPages(*printer_, pages);
 }
 
@@ -179,13 +180,22 @@ double QtPlatform::ScreenWidth() {
   return screen == nullptr ? 0.0 : screen->availableSize().width() * kTwipsPerPixel;
 }
 
+/// Beside the project folders, beside the executable, and where an installation puts it.
+QStringList QtPlatform::ManualPlaces(const std::filesystem::path& file) const {
+  const QString own = QCoreApplication::applicationDirPath();
+  return {FromPath(file.parent_path()), own, QDir::cleanPath(own + QStringLiteral("/../share/zefirondo"))};
+}
+
 void QtPlatform::ShowHelp(const std::filesystem::path& file) {
-  std::filesystem::path page = file;
-  page.replace_extension(".html");
-  std::error_code ignored;
-  if (std::filesystem::exists(page, ignored) && QDesktopServices::openUrl(QUrl::fromLocalFile(FromPath(page)))) return;
+  const QString folder = FindManual(ManualPlaces(file), language_);
+  if (!folder.isEmpty()) {
+    if (!manual_) manual_ = std::make_unique<ManualViewer>(folder, language_);
+    manual_->ShowIndex();
+    return;
+  }
   const bool italian = language_ == Language::Italian;
   const std::string missing = italian ? "La guida non è stata trovata: " : "The help was not found: ";
+  const std::filesystem::path page = file.parent_path() / "manual" / (italian ? "it" : "en") / "index.html";
   ShowMessage(
       {MessageIcon::Information, italian ? "Guida" : "Help", missing + FromQt(FromPath(page)), MessageButtons::Ok});
 }
@@ -200,14 +210,18 @@ std::filesystem::path QtPlatform::InformationTool() {
 
 bool QtPlatform::StartTool(const std::filesystem::path& tool) { return QProcess::startDetached(FromPath(tool), {}); }
 
+/// A work of a moment is not held up by its bar; during a long one the windows are painted, and nothing else is done.
 void QtPlatform::ShowProgress() {
+  if (progress_shown_.isValid() && progress_shown_.elapsed() < kProgressPause) return;
+  progress_shown_.start();
   Refresh();
-  if (window_ != nullptr) window_->repaint();
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void QtPlatform::EndProgram(bool failed) {
   ended_ = true;
   failed_ = failed;
+  manual_.reset();
   QCoreApplication::exit(exit_status());
 }
 

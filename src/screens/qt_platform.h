@@ -1,6 +1,8 @@
 // What the program needs of the desktop, answered with Qt.
 #pragma once
 
+#include <QElapsedTimer>
+#include <QStringList>
 #include <functional>
 #include <map>
 #include <memory>
@@ -12,6 +14,8 @@ class QPrinter;
 class QWidget;
 
 namespace zefirondo::screens {
+
+class ManualViewer;
 
 class QtPlatform : public Platform {
  public:
@@ -40,6 +44,10 @@ class QtPlatform : public Platform {
   void ShowProgress() override;
   void EndProgram(bool failed) override;
 
+ protected:
+  /// The folders that may hold the folder "manual", the first one before the others.
+  [[nodiscard]] virtual QStringList ManualPlaces(const std::filesystem::path& file) const;
+
  private:
   void Refresh() const;
 
@@ -47,7 +55,9 @@ class QtPlatform : public Platform {
   QWidget* window_ = nullptr;
   std::function<void()> refresh_;
   std::map<std::string, std::string> store_;
-  std::unique_ptr<QPrinter> printer_;  // of the last printer dialog
+  std::unique_ptr<QPrinter> printer_;     // of the last printer dialog
+  std::unique_ptr<ManualViewer> manual_;  // once it was opened
+  QElapsedTimer progress_shown_;
   bool ended_ = false;
   bool failed_ = false;
 };

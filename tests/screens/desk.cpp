@@ -50,6 +50,11 @@ Desk::~Desk() { answering_.stop(); }
 
 void Desk::AnswerBox() {
   auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  if (answer_unplanned) {
+    auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (dialog != nullptr && dialog->isVisible()) answer_unplanned(*dialog);
+    return;
+  }
   if (box == nullptr || !box->isVisible()) return;
   ShownBox shown{box->windowTitle(), box->text(), box->icon(), {}, {}};
   QList<QAbstractButton*> buttons = box->buttons();

@@ -30,6 +30,7 @@ class DeskPlatform : public QtPlatform {
   double ScreenWidth() override { return 1920 * 15.0; }
   Date Today() override { return {1, 2, 2024}; }
   void WriteStore(const std::string& /*key*/, const std::string& /*value*/) override {}
+  bool StartTool(const std::filesystem::path& /*tool*/) override { return false; }
   std::optional<std::filesystem::path> ChooseFile(const FileDialog& dialog) override;
 };
 
@@ -54,6 +55,8 @@ class Desk {
   Program program;
   std::unique_ptr<MainFrameView> frame;
   std::vector<ShownBox> boxes;
+  /// Closes a dialog that nobody planned to answer; without it such a dialog is a failure of the test.
+  std::function<void(QDialog&)> answer_unplanned;
 
   /// Has the next message box answered with a key or by a click on a button. A box with OK alone needs none.
   void AnswerByClick(QMessageBox::StandardButton button) { answers_.push_back({button, std::nullopt}); }

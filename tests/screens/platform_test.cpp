@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <cmath>
 #include <limits>
 
@@ -77,6 +78,35 @@ void PlatformTest::ProjectFilesAreTiedToTheProgram() {
   file.close();
   platform.WriteStore("Zefirondo\\shell\\open\\command", "/usr/bin/zefirondo %1");
   QCOMPARE(QFileInfo(entry).lastModified(), long_ago);  // what is the same is not written again
+}
+
+void PlatformTest::AnInstalledProgramLeavesTheUsersFolderAlone() {
+  const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  const QString name = QStringLiteral("/applications/io.github.zefirondo.Zefirondo.desktop");
+  const QTemporaryDir prefix;
+  const QString executable = prefix.filePath(QStringLiteral("bin/zefirondo"));
+  const QString share = prefix.filePath(QStringLiteral("share"));
+  QVERIFY(QDir().mkpath(share + QStringLiteral("/applications")));
+  QFile installed(share + name);
+  QVERIFY(installed.open(QIODevice::WriteOnly));
+  installed.close();
+  const QByteArray before = qgetenv("XDG_DATA_DIRS");
+
+  qputenv("XDG_DATA_DIRS", share.toUtf8());
+  QFile::remove(data + name);
+  AssociateProjectFiles(executable);
+  QVERIFY(!QFile::exists(data + name));
+
+  AssociateProjectFiles(QStringLiteral("/elsewhere/bin/zefirondo"));  // a copy that nobody installed
+  QVERIFY(ContentOf(data + name).contains("Exec=\"/elsewhere/bin/zefirondo\" %f\n"));
+  AssociateProjectFiles(executable);  // its entry would hide the installed one
+  QVERIFY(ContentOf(data + name).contains(executable.toUtf8() + "\" %f\n"));
+
+  QFile::remove(data + name);
+  qputenv("XDG_DATA_DIRS", "/nowhere");  // installed where the desktop does not look
+  AssociateProjectFiles(executable);
+  QVERIFY(QFile::exists(data + name));
+  before.isEmpty() ? qunsetenv("XDG_DATA_DIRS") : qputenv("XDG_DATA_DIRS", before);
 }
 
 void PlatformTest::AnExecLineQuotesThePath() {
@@ -170,4 +200,6 @@ void PlatformTest::AFailureThatEndsIsAStatusOfOne() {
   screens::QtPlatform bad(Language::English);
   bad.EndProgram(true);
   QCOMPARE(bad.exit_status(), 1);
+  QTimer::singleShot(0, qApp, &QCoreApplication::quit);  // the end asked for is not that of the tests
+  QApplication::exec();
 }

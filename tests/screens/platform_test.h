@@ -11,6 +11,7 @@ class PlatformTest : public QObject {
   void FiltersOfFileDialogsAreTranslated();
   void AMessageBoxShowsWhatTheDataSay();
   void ProjectFilesAreTiedToTheProgram();
+  void AnInstalledProgramLeavesTheUsersFolderAlone();
   void AnExecLineQuotesThePath();
   void AGridLineIsOnePixel();
   void AThinnedCurveKeepsItsPeaks();

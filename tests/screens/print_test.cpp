@@ -305,7 +305,10 @@ void PrintTest::TheDialogLeadsToAFile() {
     for (QLineEdit* const field : dialog.findChildren<QLineEdit*>()) {
       if (field->objectName() == "filename") field->setText(path);
     }
-    QTest::keyClick(&dialog, Qt::Key_Return);
+    auto* const buttons = dialog.findChild<QDialogButtonBox*>();
+    for (QAbstractButton* const button : buttons->buttons()) {
+      if (buttons->buttonRole(button) == QDialogButtonBox::AcceptRole) QTest::mouseClick(button, Qt::LeftButton);
+    }
   });
   const auto choice = desk.platform.ChoosePrinter();
   QVERIFY(choice.has_value());
