@@ -23,7 +23,10 @@ install_missing() {
 # What the program needs to be built, and to start on a desktop.
 BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev qt6-translations-l10n fonts-liberation)
 # What the tests and benchmarks need besides.
-TEST_PACKAGES=(ccache libgtest-dev libbenchmark-dev poppler-utils)
+TEST_PACKAGES=(ccache libgtest-dev libbenchmark-dev poppler-utils
+  desktop-file-utils appstream lintian shared-mime-info libxml2-utils dpkg-dev file)
+# What building the Debian package needs besides.
+PACKAGE_PACKAGES=(dpkg-dev file)
 # What fuzzing needs besides.
 FUZZ_PACKAGES=(clang-14 libclang-rt-14-dev)
 # What the format and lint checks need besides.

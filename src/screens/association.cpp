@@ -42,6 +42,13 @@ void StartIfThere(const QString& tool, const QString& folder) {
   if (!found.isEmpty()) QProcess::startDetached(found, {folder});
 }
 
+/// An installation into a folder that the desktop reads has brought the two files with it.
+bool IsInstalled(const QString& executable, const QString& entry) {
+  const QString data = QDir::cleanPath(QFileInfo(executable).path() + QStringLiteral("/../share"));
+  const QStringList read = QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation);
+  return read.contains(data) && QFileInfo(data + entry).isFile();
+}
+
 }  // namespace
 
 QByteArray DesktopEntry(const QString& executable) {
@@ -55,6 +62,8 @@ void AssociateProjectFiles(const QString& executable) {
   const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
   if (data.isEmpty() || executable.isEmpty()) return;
   const QString entry = QStringLiteral("/applications/%1.desktop").arg(QLatin1String(kApplicationId));
+  // An entry of the user, left by another copy of the program, hides the installed one: that is set right.
+  if (IsInstalled(executable, entry) && !QFileInfo::exists(data + entry)) return;
   if (WriteIfNew(data + QStringLiteral("/mime/packages/zefirondo.xml"), MimePackage())) {
     StartIfThere(QStringLiteral("update-mime-database"), data + QStringLiteral("/mime"));
   }

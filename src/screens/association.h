@@ -9,7 +9,8 @@ namespace zefirondo::screens {
 /// The name of the program's desktop entry, icon and windows.
 inline constexpr char kApplicationId[] = "io.github.zefirondo.Zefirondo";
 
-/// Writes the two files where they differ, and has the desktop read them. Failures are ignored.
+/// Writes the two files where they differ, and has the desktop read them; an installed program, which brought its own,
+/// leaves the user's folder alone unless an entry stands there. Failures are ignored.
 void AssociateProjectFiles(const QString& executable);
 
 /// The desktop entry that starts this executable.

@@ -18,11 +18,14 @@ namespace {
 
 using namespace zefirondo;
 
-/// The folder of the executable where it can be written, which makes a portable copy; else one in the user's home.
+/// The folder of the executable where that can be written and was not installed, which makes a portable copy; else
+/// one in the user's home.
 std::filesystem::path ProgramFolder() {
   const QString own = QCoreApplication::applicationDirPath();
   const QString home = QDir::home().filePath(QStringLiteral("Zefirondo"));
-  return std::filesystem::path((QFileInfo(own).isWritable() ? own : home).toStdU16String());
+  const bool installed = QFileInfo::exists(own + QStringLiteral("/../share/zefirondo"));
+  const bool portable = !installed && QFileInfo(own).isWritable();
+  return std::filesystem::path((portable ? own : home).toStdU16String());
 }
 
 /// All arguments joined by a blank: the path of a project, with the blanks that it holds.
