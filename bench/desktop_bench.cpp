@@ -48,7 +48,8 @@ void MeasureDesignChange() {
   }
   const double median = Median(taken);
   std::printf(
-      "design change, key to painted at 1920 x 1080: %.1f ms, a frame at 60 Hz: %.1f ms, ratio %.2f (at most 1.00)\n",
+      "design change, key to painted / a frame at 60 Hz: %.1f ms at 1920 x 1080, a frame %.1f ms, ratio %.2f (at most "
+      "1.00)\n",
       median, kFrame, median / kFrame);
 }
 
@@ -109,9 +110,8 @@ void MeasureImport() {
   }
   const double allowed = 3 * Median(readings) + Median(repaints);
   std::printf(
-      "import of 1.4 MB, answer to painted graph: %.1f ms, reading %.1f ms, one repaint %.1f ms, against three "
-      "readings "
-      "and a repaint: ratio %.2f (at most 1.00)\n",
+      "import to its graph / three readings and a repaint: %.1f ms, reading %.1f ms, one repaint %.1f ms, ratio %.2f "
+      "(at most 1.00)\n",
       Median(imports), Median(readings), Median(repaints), Median(imports) / allowed);
 }
 

@@ -48,9 +48,13 @@ for run in 1 2 3 4 5 6 7; do
   start Yardstick "$bin/empty_window" >>"$home/yardstick"
   start Zefirondo "$home/zefirondo" ${project:+"$project"} >>"$home/program"
 done
+with=${project:+" with a project"}${graphs:+" and every graph"}
 for figure in 1 2; do
   yardstick=$(awk -v f=$figure '{print $f}' "$home/yardstick" | median)
   program=$(awk -v f=$figure '{print $f}' "$home/program" | median)
-  unit=$([ $figure = 1 ] && echo ms || echo kB)
-  awk -v p="$program" -v y="$yardstick" -v u="$unit" 'BEGIN {printf "program %d %s, yardstick %d %s, ratio %.2f\n", p, u, y, u, p / y}'
+  [ $figure = 1 ] && what=start unit=ms bound=1.50 || what=memory unit=kB bound=1.40
+  [ -z "$project" ] || bound=2.00
+  awk -v p="$program" -v y="$yardstick" -v what="$what$with" -v unit="$unit" -v bound=$bound 'BEGIN {
+    printf "%s / an empty window: %d %s, yardstick %d %s, ratio %.2f (at most %s)\n", what, p, unit, y, unit, p / y, bound
+  }'
 done
