@@ -58,9 +58,9 @@ void frmalfa_Load(Program& program) {
 void TakeAlignment(Program& program, const Alignment& row) {
   ProjectState& s = program.state;
   const double fs = TransducerFs(s);
-  s.Vb = ReadNumber(s.txtvas) * s.DriversNum * row.vb_vas;
-  s.Fb = fs * row.fb_fs;
-  s.F3v = fs * row.f3_fs;
+  s.Vb = Finite(ReadNumber(s.txtvas) * s.DriversNum * row.vb_vas);
+  s.Fb = Finite(fs * row.fb_fs);
+  s.F3v = Finite(fs * row.f3_fs);
   s.AlfaValue = row.vb_vas;
 }
 

@@ -17,7 +17,7 @@ constexpr double kAirLoad = 1.15;
 constexpr std::array<std::string_view, 5> kListedQtc{"0.5", "0.707", "1.0", "1.4", "2.0"};
 
 void ResonanceFromVolume(ProjectState& s) {
-  s.Fc = TransducerFs(s) * ClosedRatio(TotalVas(s), s.VbaClosed);
+  s.Fc = Finite(TransducerFs(s) * ClosedRatio(TotalVas(s), s.VbaClosed));
   s.F3c = ClosedF3(s.Qtc, s.Fc);
 }
 
@@ -26,9 +26,9 @@ void QtcFromVolume(Program& program) {
   ProjectState& s = program.state;
   Sheet& sheet = program.windows.frmthsm;
   const double ratio = ClosedRatio(TotalVas(s), s.VbaClosed);
-  s.Qtc = s.Qts * ratio;
+  s.Qtc = Finite(s.Qts * ratio);
   AssignNumber(program, sheet.cmballi, s.Qtc);
-  s.Fc = TransducerFs(s) * ratio;
+  s.Fc = Finite(TransducerFs(s) * ratio);
   s.F3c = ClosedF3(s.Qtc, s.Fc);
   RispostaChiusa(s, s.Qtc, s.Fc);
   AssignNumber(program, sheet.txtfb, s.Fc);
@@ -86,7 +86,7 @@ double ClosedRatio(double vas, double vba) { return SquareRoot((Divide(vas, vba)
 double ClosedF3(double qtc, double fc) {
   const double a = Divide(1, qtc * qtc) - 2;
   const double b = SquareRoot(a * a + 4);
-  return fc * SquareRoot((b + a) / 2);
+  return Finite(fc * SquareRoot((b + a) / 2));
 }
 
 void CalcolaChiusa(Program& program) {
@@ -126,7 +126,7 @@ void RiapriChiusa(Program& program) {
   ProjectState& s = program.state;
   s.Qtc = ReadNumber(s.cmballi);
   s.VbaClosed = ApparentVolume(s, s.Vc);
-  s.Fc = TransducerFs(s) * ClosedRatio(TotalVas(s), s.VbaClosed);
+  s.Fc = Finite(TransducerFs(s) * ClosedRatio(TotalVas(s), s.VbaClosed));
   RispostaChiusa(s, s.Qtc, s.Fc);
   RidisegnaCassa(program);
 }

@@ -84,7 +84,7 @@ double TuneFromLength(Program& program) {
   if (!s.txtb.empty()) {
     const Sides sides = ReadSides(s);
     const double apparent = length + 2 * EndRect(sides.a, sides.b);
-    s.SectArea1Vent = sides.a * sides.b;
+    s.SectArea1Vent = Finite(sides.a * sides.b);
     s.Fb = PortTuning(s, apparent, s.SectArea1Vent);
     return apparent;
   }
@@ -97,10 +97,10 @@ bool TakeSection(Program& program) {
   if (s.cmbDoa.empty()) return false;
   if (program.windows.frmthsm.RoundPort()) {
     const double radius = ReadNumber(s.cmbDoa) / 100 / 2;
-    s.SectArea1Vent = kPi * (radius * radius);
+    s.SectArea1Vent = Finite(kPi * (radius * radius));
   } else {
     if (s.txtb.empty()) return false;
-    s.SectArea1Vent = (ReadNumber(s.cmbDoa) * ReadNumber(s.txtb)) / 10000;
+    s.SectArea1Vent = Finite(ReadNumber(s.cmbDoa) * ReadNumber(s.txtb)) / 10000;
   }
   AssignNumber(program, program.windows.frmthsm.txtareasez, s.SectArea1Vent * 10000);
   DimensionaCondotto(program);
@@ -136,7 +136,7 @@ void txtb_LostFocus(Program& program) {
   ProjectState& s = program.state;
   s.DesignChanged = s.txtb != s.FieldBefore;
   if (!s.DesignChanged || s.cmbDoa.empty() || s.txtb.empty()) return;
-  s.SectArea1Vent = (ReadNumber(s.cmbDoa) * ReadNumber(s.txtb)) / 10000;
+  s.SectArea1Vent = Finite(ReadNumber(s.cmbDoa) * ReadNumber(s.txtb)) / 10000;
   AssignNumber(program, program.windows.frmthsm.txtareasez, s.SectArea1Vent * 10000);
   DimensionaCondotto(program);
 }
@@ -197,7 +197,7 @@ double SezioneMinima(const ProjectState& state, const std::string& xmax, const s
   const double half = Divide(area * area * excursion, speed);
   const double q = SquareRoot((half + half) * kPi * state.Fb);
   const double r = SquareRoot(Divide(1, state.VentNum * kPi) * q);
-  return r * r * kPi;
+  return Finite(r * r * kPi);
 }
 
 void DimensionaCondotto(Program& program) {

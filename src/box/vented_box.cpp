@@ -69,9 +69,9 @@ void RetuneFromPort(Program& program) {
 
 }  // namespace
 
-double VentedVolume(double vas, double qts) { return vas * 20 * Power(qts, 3.3); }
-double VentedTuning(double fs, double vas, double volume) { return fs * Power(Divide(vas, volume), 0.31); }
-double VentedF3(double fs, double vas, double volume) { return fs * Power(Divide(vas, volume), 0.44); }
+double VentedVolume(double vas, double qts) { return Finite(vas * 20 * Power(qts, 3.3)); }
+double VentedTuning(double fs, double vas, double volume) { return Finite(fs * Power(Divide(vas, volume), 0.31)); }
+double VentedF3(double fs, double vas, double volume) { return Finite(fs * Power(Divide(vas, volume), 0.44)); }
 
 void SweepVented(Program& program) {
   ProjectState& s = program.state;

@@ -13,7 +13,7 @@ constexpr double kFreeAirGamma = 1.400823478;
 }  // namespace
 
 double ApparentVolume(const ProjectState& state, double volume) {
-  return Divide(volume, state.Pressure * state.Kinternal) * kFreeAirGamma * state.Pressure;
+  return Finite(Divide(volume, state.Pressure * state.Kinternal) * kFreeAirGamma * state.Pressure);
 }
 
 void SumBoxVolume(Program& program) {

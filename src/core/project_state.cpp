@@ -8,6 +8,6 @@ double TransducerFs(const ProjectState& state) { return state.Fs != 0.0 ? state.
 
 double TransducerZmax(const ProjectState& state) { return state.Zmax != 0.0 ? state.Zmax : ReadNumber(state.txtzmax); }
 
-double TotalVas(const ProjectState& state) { return state.DriversNum * state.Vas; }
+double TotalVas(const ProjectState& state) { return Finite(state.DriversNum * state.Vas); }
 
 }  // namespace zefirondo

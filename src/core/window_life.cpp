@@ -94,7 +94,7 @@ bool CloseWindow(Program& program, std::string_view name) {
 
 void BringToFront(Program& program, Window& window) {
   PutInOrder(program, window, true);
-  if (program.active != &window) Activate(program, window);
+  if (program.active != &window && !window.hidden) Activate(program, window);
 }
 
 void SendToBack(Program& program, Window& window) { PutInOrder(program, window, false); }

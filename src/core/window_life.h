@@ -19,7 +19,8 @@ void LoadWindow(Program& program, Window& window);
 bool CloseWindow(Program& program, Window& window);
 bool CloseWindow(Program& program, std::string_view name);
 
-/// Puts a window before all others, and runs its activation if it was not the active one.
+/// Puts a window before all others, and runs its activation if it was not the active one. A hidden window stays
+/// hidden, and is not activated.
 void BringToFront(Program& program, Window& window);
 
 /// Puts a window behind all others but the frame.

@@ -30,6 +30,7 @@ bool ImportOverlay(Program& program, double limit, const std::function<void(cons
   try {
     const auto path = program.platform.ChooseFile(OverlayDialog(program));
     if (!path) return false;
+    program.state.FilePath = path->string();
     ReadOverlay(*path, limit, use);
     return true;
   } catch (const RunTimeError& error) {

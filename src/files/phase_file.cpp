@@ -87,6 +87,7 @@ bool ImportPhaseTrace(Program& program, PhaseCurve& curve) {
   try {
     const auto path = program.platform.ChooseFile(dialog);
     if (!path) return false;
+    program.state.FilePath = path->string();
     RowReader reader(*path);
     reader.ReadLine();  // the colour
     while (!reader.AtEnd()) {

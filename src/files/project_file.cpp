@@ -190,7 +190,7 @@ class ProjectWriter {
 
   void WriteSection(const Dialect& dialect) {
     const Section section = ChosenSection();
-    if (section == Section::None) return;
+    if (section == Section::None) return;  // a file without a box cannot be read back, as wanted
     if (section == Section::Closed) {
       Line(BothTabs() ? std::string_view(dialect.closed_of_two) : kClosedSection);
       Line("Alignment=", state_.cmballi);
@@ -460,7 +460,7 @@ void OpenProject(Program& program) {
     s.FilePath = s.ProjectPath = path->string();
     s.ProjectTitle = path->filename().string();
   } else {
-    s.FilePath = program.command_line;
+    s.FilePath = program.command_line;  // and `ProjectPath` stays: "Save Project" has no path to write to, as wanted
   }
   s.ProjectLoaded = s.HasProjectPath = true;
   OpenWindow(program, program.windows.frmthsm.window);

@@ -48,6 +48,7 @@ void SaveTrace(Program& program, int colour, const Curve& x, const Curve& y) {
   try {
     const auto path = program.platform.ChooseFile(TraceDialog(program, program.Text(468), true));
     if (!path) return;
+    program.state.FilePath = path->string();
     WriteWholeFile(*path, TraceText(colour, x, y));
   } catch (const RunTimeError& error) {
     program.ErrorMessage(program.Text(183) + error.what());
@@ -73,6 +74,7 @@ bool ImportTrace(Program& program, const std::string& words, Trace& trace) {
   try {
     const auto path = program.platform.ChooseFile(TraceDialog(program, words, false));
     if (!path) return false;
+    program.state.FilePath = path->string();
     trace = ReadTrace(*path);
     return true;
   } catch (const RunTimeError& error) {

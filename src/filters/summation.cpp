@@ -34,7 +34,7 @@ void Sum(ProjectState& s, const Curve& x, Level level) {
   s.SumDb.assign(kPointsTo5k + 1, 0.0);
   for (std::size_t i = 0; i < kPointsTo5k; ++i) {
     s.SumFreq[i] = At(x, i);
-    s.SumDb[i] = level(i);
+    s.SumDb[i] = Finite(level(i));
   }
 }
 
@@ -81,7 +81,7 @@ void frmgrafcassa_mnuimportaOverlay_Click(Program& program) {
 /// Moves the imported response by so many dB, relative to the array as it stands.
 void Calibrate(Program& program, double db, int filter_colour) {
   RidisegnaCassa(program);
-  for (double& level : program.windows.frmgrafcassa.OverlayDb) level += db;
+  for (double& level : program.windows.frmgrafcassa.OverlayDb) level = Finite(level + db);
   DrawOverlay(program);
   DrawFilter(program, filter_colour);
 }
@@ -94,7 +94,7 @@ void cmdcalibra_Click(Program& program) {
 
 void StepCalibration(Program& program, double db) {
   BoxResponse& form = program.windows.frmgrafcassa;
-  form.CalibrationDb += db;
+  form.CalibrationDb = Finite(form.CalibrationDb + db);
   AssignNumber(program, form.txtdbcal, form.CalibrationDb);
   Calibrate(program, db, colour::kCyan);  // cyan where the button "Apply" has orange, as wanted
 }
@@ -136,7 +136,7 @@ struct SplOverlay {
     const double x = 20 * Log10(row.first);
     s.OverlaySplFreq[count] = s.SumFreq[count] = x;
     s.OverlaySplDb[count] = row.second;
-    s.SumDb[count] = row.second + At(s.SplDb, count);
+    s.SumDb[count] = Finite(row.second + At(s.SplDb, count));
     largest = std::max(largest, s.SumDb[count]);
     ++count;
   }

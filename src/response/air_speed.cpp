@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "core/numbers.h"
 #include "core/window_life.h"
@@ -109,14 +110,15 @@ void VelocitaAria(ProjectState& s, double power) {
   const PortFlow flow(s, power);
   const std::vector<double>& hertz = Sweep5k().hertz;
   FillAbscissa(s.AirFreq, kPointsTo2k);
-  s.AirSpeed.assign(kPointsTo2k + 1, 0.0);
+  Curve speed(kPointsTo2k + 1, 0.0);
   double maximum = 0.0;
   BeginArithmetic();
   for (std::size_t i = 0; i < kPointsTo2k; ++i) {
-    s.AirSpeed[i] = flow(hertz[i]);
-    maximum = std::max(maximum, s.AirSpeed[i]);
+    speed[i] = flow(hertz[i]);
+    maximum = std::max(maximum, speed[i]);
   }
   CheckArithmetic();
+  s.AirSpeed = std::move(speed);
   s.SplScaleTop = ScaleTop(maximum, kHeadroom);
 }
 

@@ -1,6 +1,7 @@
 #include "response/phase.h"
 
 #include <cmath>
+#include <utility>
 
 #include "core/numbers.h"
 #include "core/run_time_error.h"
@@ -19,11 +20,11 @@ constexpr double kTop = 180;
 constexpr double kLoweredTop = 360;
 constexpr const char* kTraceWords = "Tracciato";
 
-void PrepareSweep(ProjectState& s) {
-  s.PhaseFreq.clear();
+/// The curve gives way to a new one, which stands once all of it was computed.
+Curve BeginSweep(ProjectState& s) {
   s.PhaseDeg.clear();
   FillAbscissa(s.PhaseFreq, kPointsTo5k);
-  s.PhaseDeg.assign(kPointsTo5k + 1, 0.0);
+  return Curve(kPointsTo5k + 1, 0.0);
 }
 
 void DrawPhase(Program& program) {
@@ -102,7 +103,7 @@ void pctgrafFase_MouseUp(Program& program) { HideReadout(program.windows.frmFase
 }  // namespace
 
 void FaseChiusa(ProjectState& s, double qtc, double fc) {
-  PrepareSweep(s);
+  Curve degrees = BeginSweep(s);
   const std::vector<double>& hertz = Sweep5k().hertz;
   const double half_turn = 2 * std::atan(1.0);
   BeginArithmetic();
@@ -111,13 +112,14 @@ void FaseChiusa(ProjectState& s, double qtc, double fc) {
     const double a = r / qtc;
     const double b = 1 - r * r;
     const double t = half_turn - std::atan(b / a);
-    s.PhaseDeg[i] = (t * 180) / kPi;
+    degrees[i] = (t * 180) / kPi;
   }
   CheckArithmetic();
+  s.PhaseDeg = std::move(degrees);
 }
 
 void FaseReflex(ProjectState& s, double vb, double fs, double qts, double fb, double vas_total) {
-  PrepareSweep(s);
+  Curve degrees = BeginSweep(s);
   const double ql = s.Ql;
   const double alpha = Divide(vas_total, vb);
   const double p1 = Divide(1, ql * fb) + Divide(1, fs * qts);
@@ -136,10 +138,11 @@ void FaseReflex(ProjectState& s, double vb, double fs, double qts, double fb, do
     const double t = std::atan(re / im) - half_turn;
     const double d = (t * 180) / kPi;
     falling = falling && previous > d;  // one unwrapping step: from the first jump on all values are raised
-    s.PhaseDeg[i] = falling ? d : d + 180;
+    degrees[i] = falling ? d : d + 180;
     previous = d;
   }
   CheckArithmetic();
+  s.PhaseDeg = std::move(degrees);
 }
 
 double FoldPhaseSum(double degrees) {

@@ -12,30 +12,30 @@ namespace {
 /// A name without its index: "imgforma(1)" is "imgforma" and "1".
 struct Element {
   std::string_view name;
-  std::string_view index;
+  std::optional<std::string_view> index;
 };
 
 Element SplitIndex(std::string_view name) {
   const std::size_t open = name.find('(');
-  if (open == std::string_view::npos || name.back() != ')') return {name, {}};
+  if (open == std::string_view::npos || name.back() != ')') return {name, std::nullopt};
   return {name.substr(0, open), name.substr(open + 1, name.size() - open - 2)};
 }
 
 std::optional<int> ReadIndex(std::string_view text) {
   int index = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), index);
-  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  if (error != std::errc() || end != text.data() + text.size() || index < 0) return std::nullopt;
   return index;
 }
 
 bool FindInWindow(Program& program, Window& window, std::string_view name, Named& named) {
   const Element element = SplitIndex(name);
   Sheet& sheet = program.windows.frmthsm;
-  if (&window == &sheet.window && element.name == sheet.TabStrip1.name && !element.index.empty()) {
-    named.tab = element.index;
-    return sheet.HasTab(element.index);
+  if (&window == &sheet.window && element.name == sheet.TabStrip1.name && element.index) {
+    named.tab = *element.index;
+    return sheet.HasTab(*element.index);
   }
-  const std::optional<int> index = element.index.empty() ? -1 : ReadIndex(element.index);
+  const std::optional<int> index = element.index ? ReadIndex(*element.index) : -1;
   if (!index) return false;
   named.control = window.Find(element.name, *index);
   if (named.control != nullptr) return true;

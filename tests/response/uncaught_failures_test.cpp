@@ -1,5 +1,9 @@
 // What no routine catches: the text is shown once, the program ends as failed, and nothing happens any more.
+#include <algorithm>
+#include <cmath>
+
 #include "core/acts.h"
+#include "core/record.h"
 #include "response/plain_curves.h"
 
 namespace zefirondo {
@@ -76,6 +80,15 @@ const Failure kFailures[]{
      kIndex},
 };
 
+/// A curve that failed on its way is not kept, and least of all with what no double can hold.
+void ExpectFiniteCurves(const ProjectState& state) {
+  for (const char* const name : {"SplFreq", "SplDb", "SplMaxFreq", "SplMaxDb", "AirFreq", "AirSpeed", "PhaseFreq",
+                                 "PhaseDeg", "BoxFreq", "BoxDb", "SumPhaseDeg"}) {
+    const Curve& curve = *std::get<const Curve*>(FindInRecord(state, name));
+    EXPECT_TRUE(std::all_of(curve.begin(), curve.end(), [](double value) { return std::isfinite(value); })) << name;
+  }
+}
+
 class Uncaught : public testing::TestWithParam<Failure> {};
 
 TEST_P(Uncaught, IsToldAndEndsTheProgram) {
@@ -88,6 +101,7 @@ TEST_P(Uncaught, IsToldAndEndsTheProgram) {
   desk.Choose(std::string("frmgrafcassa.") + failure.entry);
   EXPECT_EQ(desk.TakeOut(), std::string("message stop \"Error\" \"") + failure.text + "\" [OK] -> OK\nended error\n");
   EXPECT_EQ(desk.program.run, RunState::EndedByFailure);
+  ExpectFiniteCurves(desk.state);
   EXPECT_TRUE(desk.program.keys.empty());
   const std::vector<Window*> order = desk.program.order;
   desk.Choose("frmgrafcassa.mnuchiudigraf");  // nothing is done any more
