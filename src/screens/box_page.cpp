@@ -80,6 +80,7 @@ void AddSectionSize(Binder& binder, Sheet& sheet, QWidget* parent, Form& form) {
   QLabel* const unit = binder.Find(sheet.cmbDoa)->unit;
   QWidget* const side = MakeWidget(binder, sheet.txtb, parent);
   auto* const words = new QLabel(parent);
+  words->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   words->setBuddy(side);
   KeepPlace(side);
   const int row = form.row();

@@ -99,6 +99,18 @@ TEST(NetVolume, RightButtonIsForVentedBoxes) {
             "message information \"Information\" \"Feature available only for Vented Box\" [OK] -> OK\n");
 }
 
+TEST(NetVolume, RightButtonSpeaksItalianAndKnowsTheItalianSection) {
+  BoxDesk closed(Language::Italian);
+  closed.DesignClosedBox();
+  RightClick(closed.program, closed["txtvolnetto"]);
+  EXPECT_EQ(closed.TakeOut(),
+            "message information \"Informazione\" \"Funzione disponibile solo in caso di Box reflex\" [OK] -> OK\n");
+  BoxDesk vented(Language::Italian);
+  vented.DesignVentedBox();
+  RightClick(vented.program, vented["txtvolnetto"]);
+  EXPECT_TRUE(vented.program.FindWindow("frmalfa")->open);
+}
+
 TEST(NetVolume, RightButtonShowsNoMessageForAVentedBox) {
   BoxDesk desk;
   desk.DesignVentedBox();
@@ -274,6 +286,16 @@ TEST(NumberOfTransducers, OutOfRangeGoesBackOnLeaving) {
   }
 }
 
+TEST(NumberOfTransducers, OutOfRangeGoesBackToTheirNumber) {
+  BoxDesk desk;
+  desk.DesignVentedBox();
+  desk.ChooseDrivers("3", Answer::Yes);
+  for (const char* const typed : {"0", "7"}) {
+    desk.Enter("cmbnumdriver", typed);
+    EXPECT_EQ(desk.Text("cmbnumdriver"), "3");
+  }
+}
+
 void ExpectPages(BoxDesk& desk, bool vented) {
   const Sheet& sheet = desk.sheet;
   EXPECT_TRUE(sheet.frabox.visible);
@@ -383,6 +405,19 @@ TEST(EnteringTheTab, WarnsOfChangesAndForgetsThem) {
       desk.Tab(vented ? "ref" : "chi");
       EXPECT_EQ(desk.TakeOut(), "");
     }
+  }
+}
+
+TEST(EnteringTheTab, WarnsInItalian) {
+  for (const bool vented : {false, true}) {
+    BoxDesk desk(Language::Italian);
+    vented ? desk.DesignVentedBox() : desk.DesignClosedBox();
+    desk.Tab("gen");
+    desk.state.DesignChanged = true;
+    desk.Tab(vented ? "ref" : "chi");
+    const std::string verb = vented ? "potrebbero essere state" : "sono state";
+    EXPECT_EQ(desk.TakeOut(), "message information \"Informazione\" \"Attenzione!\\nCon la precedente modifica " +
+                                  verb + " apportate diverse variazioni al progetto\" [OK] -> OK\n");
   }
 }
 

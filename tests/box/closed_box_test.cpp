@@ -25,6 +25,20 @@ TEST(ClosedBoxFormulas, VolumeIsNegativeWhereTheQCannotBeReached) {
 
 TEST(ClosedBoxFormulas, VolumeNeedsAQts) { EXPECT_THROW((void)ClosedVolume(0.05, 0, 0.707), RunTimeError); }
 
+TEST(ClosedBoxFormulas, VolumeOfAQtcAtTheVeryLimitHasNoNumber) {
+  // 1.15 (Qtc / Qts)² is exactly 1 for a Qtc next to Qts / √1.15 = 0.9325 Qts.
+  bool found = false;
+  for (double qts = 0.2; qts < 0.9 && !found; qts += 0.001) {
+    double qtc = qts / std::sqrt(1.15) * (1 - 1e-15);
+    for (int i = 0; i < 12 && !found; ++i, qtc = std::nextafter(qtc, 1.0)) {
+      found = (qtc / qts) * (qtc / qts) * 1.15 - 1 == 0;
+      if (!found) continue;
+      EXPECT_THROW((void)ClosedVolume(0.05, qts, qtc), RunTimeError);
+    }
+  }
+  EXPECT_TRUE(found);
+}
+
 TEST(ClosedBoxFormulas, ResonanceRatio) {
   // √((0.05 / 0.02 + 1) / 1.15) = √(3.5 / 1.15)
   EXPECT_NEAR(ClosedRatio(0.05, 0.02), 1.744556751977294, 1e-15);
@@ -96,6 +110,16 @@ TEST(Filling, KeepsTheQtcWhileTheResonanceMoves) {
   EXPECT_EQ(desk.state.VbaClosed, desk.state.Vba);
 }
 
+TEST(Filling, TakesTheApparentVolumeOfTheTypedFigureAndNotOfTheShownOne) {
+  // 60.0000567 litres are shown as 60.0000 once the box was computed; 1.400823478 / 1.27272727 is the filling.
+  BoxDesk desk;
+  desk.DesignClosedBox();
+  desk.Enter("txtvolnetto", "60.0000567");
+  desk.Pick("cmbk", "1.27(10%)");
+  EXPECT_EQ(desk.Text("txtvolnetto"), "60.0000");
+  EXPECT_NEAR(desk.state.VbaClosed, 0.0600000567 * 1.400823478 / 1.27272727, 1e-15);
+}
+
 TEST(Filling, UnknownTextDoesNothingOnClick) {
   BoxDesk desk;
   desk.DesignClosedBox();
@@ -114,6 +138,15 @@ TEST(Filling, UnknownTextFallsBackToPlainAirOnLeaving) {
   EXPECT_EQ(desk.Text("cmbk"), "1.40");
   EXPECT_EQ(desk.state.Kinternal, 1.400823478);
   EXPECT_EQ(desk.Text("txtvolappa"), "103.593");
+}
+
+TEST(Filling, IsKnownByItsFirstFourCharacters) {
+  BoxDesk desk;
+  desk.DesignClosedBox();
+  desk.Pick("cmbk", "1.12 of wool");
+  EXPECT_EQ(desk.state.Kinternal, 1.120658782);
+  desk.Pick("cmbk", "1.1");
+  EXPECT_EQ(desk.state.Kinternal, 1.120658782);
 }
 
 TEST(Filling, TypedTextOfTheListIsLeftAloneOnLeaving) {
@@ -335,6 +368,7 @@ TEST(ClosedBox, FixedVolumeReadsTheApparentVolumeBackFromTheField) {
   EXPECT_EQ(desk.Text("txtvolnetto"), "12.3456");
   EXPECT_EQ(desk.state.Vc, 0.0123456789);
   EXPECT_NEAR(desk.state.VbaClosed, 0.0123456, 1e-15);
+  EXPECT_EQ(desk.Text("txtvolappa"), "12.3456");
   EXPECT_EQ(desk.Text("txtboxvolume"), "13.9740");  // 1.62848 + 12.3456
 }
 

@@ -143,6 +143,16 @@ TEST(DimensionEntry, CancelAndCloseApplyNothing) {
   }
 }
 
+TEST(DimensionEntry, ClosedByItsCloseBoxForgetsWhatWasTyped) {
+  EntryDesk desk(kHigh);
+  desk.Set(kL, "40");
+  CloseBox(desk.program, desk.Form().window);
+  DoubleClick(desk.program, desk.sheet.txtl);
+  EXPECT_FALSE(desk.Form().ChangedL);
+  desk.Click(kModify);
+  ExpectTexts(desk, {{"txtl", "36.8"}, {"cmbrappo", kHigh}});
+}
+
 /// What is typed, and the box after it. An empty text is not typed. Numbers by python, in cm, V = 50000 cm³.
 struct EntryRow {
   const char* name;

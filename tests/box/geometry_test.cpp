@@ -306,6 +306,21 @@ TEST(TrapezoidFormula, SteepestTilt) {
   EXPECT_FALSE(TrapezoidDepth(kPlan, kFront, 22.0480));
 }
 
+TEST(TrapezoidFormula, BothRootsInOneAreStillADepth) {
+  // L² is exactly 4 t S: the depth is L / 2t.
+  const double t = std::tan(15 * kPi / 180);
+  bool found = false;
+  for (double width = 20; width < 40 && !found; width += 0.1) {
+    const double area = width * width / (4 * t);
+    found = width * width - 4 * t * area == 0;
+    if (!found) continue;
+    const std::optional<double> depth = TrapezoidDepth(area, width, 15);
+    ASSERT_TRUE(depth);
+    EXPECT_NEAR(*depth, width / (2 * t), 1e-12);
+  }
+  EXPECT_TRUE(found);
+}
+
 TEST(TrapezoidFormula, MessageAndMinusOneWhenTooSteep) {
   BoxDesk desk;
   desk.DesignClosedBox();
@@ -389,6 +404,15 @@ TEST(Tilt, GettingTheFocusRemembersOneAboveZero) {
   EXPECT_EQ(desk.sheet.LastTilt, 11);
 }
 
+TEST(Tilt, OfATrapezoidIsRememberedWhateverItsSign) {
+  // A negative tilt can be pasted: the walls lean outward. The focus remembers what is above 0, the shape any tilt.
+  BoxDesk desk;
+  MakePrism(desk, "50", kHigh);
+  desk.state.cmbgradi = "-5";
+  desk.Pick("cmbforma", "Trapezoidal");
+  EXPECT_EQ(desk.sheet.LastTilt, -5);
+}
+
 TEST(Tilt, ZeroHoldsTheFocus) {
   BoxDesk desk;
   MakeTrapezoid(desk);
@@ -404,6 +428,23 @@ TEST(Tilt, TooLargeAPickReturnsToTheLastOne) {
   EXPECT_EQ(desk.TakeOut(), "message stop \"Error\" \"The value of the angle is too high.\" [OK] -> OK\n");
   ExpectTexts(desk, {{"cmbgradi", "15"}, {"txtp", "28.7"}, {"txtld", "21.4"}});
   ExpectNumbers(desk, {{"DepthPrismTrapez", 28.742472052332314}});
+}
+
+TEST(Tilt, TypedTooLargeWithinThirtyDegreesReturnsToTheLastOneAndIsDone) {
+  BoxDesk desk;
+  MakeTrapezoid(desk);
+  desk.Enter("cmbgradi", "25");
+  EXPECT_EQ(desk.TakeOut(), "message stop \"Error\" \"The value of the angle is too high.\" [OK] -> OK\n");
+  ExpectTexts(desk, {{"cmbgradi", "15"}, {"txtp", "28.7"}, {"txtld", "21.4"}});
+  EXPECT_EQ(desk.sheet.LastTilt, 15);
+  EXPECT_FALSE(desk.state.DimEditing);
+}
+
+TEST(Tilt, TooLargeIsToldInItalian) {
+  BoxDesk desk(Language::Italian);
+  desk.DesignClosedBox();
+  EXPECT_EQ(ProfonditaTrapezio(desk.program, kPlan, kFront, 23), -1);
+  EXPECT_EQ(desk.TakeOut(), "message stop \"Errore\" \"Il valore dell'angolo è troppo elevato\" [OK] -> OK\n");
 }
 
 /// A shallow box: 60 x 55 cm and 15.2 cm deep, wide enough for tilts up to 44 degrees.

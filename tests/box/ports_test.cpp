@@ -310,6 +310,19 @@ TEST(Diameter, EmptyOneIsNotRememberedAndSizesNothing) {
   EXPECT_EQ(desk.state.FieldBefore, "marker");
 }
 
+TEST(Diameter, EmptyPickClosesTheGraphsAndSizesNothing) {
+  BoxDesk desk;
+  desk.DesignVentedBox();
+  desk.Choose("frmgrafcassa.mnuspl");
+  ASSERT_TRUE(desk.program.FindWindow("frmspl")->open);
+  desk.Focus("cmbDoa");
+  desk.state.ProjectModified = false;
+  desk.Pick("cmbDoa", "");
+  EXPECT_EQ(desk.Text("txtareasez"), "70.4299");
+  EXPECT_FALSE(desk.state.ProjectModified);
+  EXPECT_FALSE(desk.program.FindWindow("frmspl")->open);
+}
+
 TEST(SideB, LeavingSizesThePortWithoutMarkingTheProject) {
   BoxDesk desk;
   desk.DesignVentedBox();

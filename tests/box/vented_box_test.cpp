@@ -274,6 +274,14 @@ TEST(Alignment, VolumeOfTheRowIsReadBackFromTheField) {
   EXPECT_NEAR(desk.state.Vb, 0.0123456, 1e-17);
 }
 
+TEST(Alignment, ShowsTheVolumeThatWasReadBack) {
+  // 671.16049 litres stand as 671.160 in the field, and 671.16 is what that reads as.
+  BoxDesk desk;
+  desk.DesignVentedBox();
+  desk.TakeAlignment(0.67116049, 20, 18);
+  EXPECT_EQ(desk.Text("txtvolnetto"), "671.16");
+}
+
 TEST(Alignment, ShowsTheTuningAnew) {
   BoxDesk desk;
   desk.DesignVentedBox();
@@ -421,6 +429,26 @@ TEST(UpdateOfAVentedBox, KeepsAPrismWithoutARearSide) {
   EnterAfterChange(desk, true, false);
   EXPECT_EQ(desk.Text("cmbforma"), "Prismatic");
   EXPECT_TRUE(desk.sheet.imgbox[0].visible);
+}
+
+TEST(UpdateOfAVentedBox, SetsUpShapeAndSectionByItself) {
+  BoxDesk desk;
+  desk.DesignVentedBox();
+  desk.Click("imgforma(0)");
+  desk.sheet.txtb.visible = desk.sheet.lblunib.visible = false;
+  desk.state.txtld = "20";
+  AggiornaReflex(desk.program);
+  EXPECT_TRUE(desk.sheet.txtb.visible && desk.sheet.lblunib.visible);
+  EXPECT_TRUE(desk.sheet.imgbox[1].visible && desk.sheet.cmbgradi.enabled);
+}
+
+TEST(UpdateOfAVentedBox, LeavesARoundPortRoundWhateverSideBHolds) {
+  BoxDesk desk;
+  desk.DesignVentedBox();
+  desk.state.txtb = "5";
+  AggiornaReflex(desk.program);
+  EXPECT_TRUE(desk.sheet.RoundPort());
+  EXPECT_FALSE(desk.sheet.txtb.visible);
 }
 
 TEST(OpenedVentedBox, RetunesFromTheLengthInItsField) {

@@ -184,6 +184,16 @@ TEST_F(AirPage, DefaultBringsTheAirBack) {
   EXPECT_EQ(desk.sheet.PressBefore, "90000");
 }
 
+TEST_F(AirPage, DefaultSetsNumbersAndSpeedWhateverStoodThere) {
+  *desk["txtvelocita"].text = "1";
+  desk.state.Temperature = 40;
+  desk.state.Pressure = 90000;
+  desk.Click("cmddefault");  // the two texts are the default ones already, and change nothing
+  EXPECT_EQ(desk.state.Temperature, 25.0);
+  EXPECT_EQ(desk.state.Pressure, 101325.0);
+  EXPECT_EQ(desk.Text("txtvelocita"), "346.253");
+}
+
 TEST_F(AirPage, DefaultAloneMarksNoProject) {
   *desk["txttemperatura"].text = "30";
   desk["cmddefault"].on.click(desk.program);
@@ -195,6 +205,23 @@ TEST_F(AirPage, DefaultClearsTheChangeWhenBothTextsStay) {
   desk.state.AirChanged = true;
   desk.Click("cmddefault");
   EXPECT_FALSE(desk.state.AirChanged);
+}
+
+TEST_F(AirPage, DefaultSetsTheSpeedOfSoundWhereTheTextsAreTheDefaultsAlready) {
+  desk.state.Velocity = 340;
+  desk.Click("cmddefault");
+  EXPECT_NEAR(desk.state.Velocity, 346.2535080618967, 1e-12);
+  EXPECT_EQ(desk.Text("txtvelocita"), "346.253");
+}
+
+TEST(AirOfANewSheet, ReplacesAnyOther) {
+  ProjectState state;
+  state.Temperature = 10;
+  state.Pressure = 90000;
+  SetStartAir(state);
+  EXPECT_EQ(state.Temperature, 25);
+  EXPECT_EQ(state.Pressure, 101325);
+  ExpectAir(state, kStartRoo, kStartVelocity);
 }
 
 TEST(AirOfANewSheet, MovesToTheFinerOneByDefault) {

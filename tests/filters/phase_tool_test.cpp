@@ -1,6 +1,6 @@
 // The window of the phase offset tool: its chart, traces from files, its ways back to the start, its read-out.
-#include "filters/phase_desk.h"
 #include "filters/phase_tool.h"
+#include "filters/phase_desk.h"
 #include "response/graph_surface.h"
 
 namespace zefirondo {

@@ -59,11 +59,13 @@ TEST(Sweep, StoresTheFirstPointLeftOfThePlot) {
 }
 
 TEST(Sweep, GivesAnAbscissaItsZeroSlot) {
-  Curve abscissa(3, 7.0);
-  FillAbscissa(abscissa, kPointsTo2k);
-  ASSERT_EQ(abscissa.size(), 2733U);
-  EXPECT_EQ(abscissa[2731], Sweep5k().x[2731]);
-  EXPECT_EQ(abscissa[2732], 0.0);
+  for (const std::size_t length : {3U, 2733U, 6828U}) {  // whatever stood there
+    Curve abscissa(length, 7.0);
+    FillAbscissa(abscissa, kPointsTo2k);
+    ASSERT_EQ(abscissa.size(), 2733U);
+    EXPECT_EQ(abscissa[2731], Sweep5k().x[2731]);
+    EXPECT_EQ(abscissa[2732], 0.0);
+  }
 }
 
 // ---- the closed box ----
@@ -279,6 +281,7 @@ TEST(BoxSweepFailure, LeavesNoCurveThatCouldBeDrawn) {
     RispostaChiusa(state, 0.707, 50);
     ASSERT_EQ(FailureOf(act, state), 11);
     EXPECT_TRUE(state.BoxFreq.empty());
+    EXPECT_TRUE(state.BoxDb.empty());
   }
 }
 

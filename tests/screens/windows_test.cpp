@@ -180,6 +180,9 @@ void WindowsTest::TheSectionIsToggledByClickAndByKey() {
   QVERIFY(desk.Find("txtb")->isVisible());
   QCOMPARE(desk.Text("lblDoL"), "Side a");
   QCOMPARE(desk.Find("txtb")->accessibleName(), "Side b");
+  for (const QLabel* const label : desk.View("frmthsm")->findChildren<QLabel*>()) {
+    if (label->text() == "Side b") QCOMPARE(label->alignment(), Qt::AlignRight | Qt::AlignVCenter);
+  }
   desk.Click("txtlungmis");
   desk.Key(Qt::Key_F2);
   QTRY_VERIFY(desk.Find("imgforma(0)")->isVisible());

@@ -196,6 +196,24 @@ TEST(Compute, AsksForTheRatingsFirst) {
   }
 }
 
+TEST(Compute, SpeaksItalianOfWhatIsMissing) {
+  Desk desk(Language::Italian);
+  desk.BeginParameters();
+  desk.FillWoofer();
+  *desk["txtxmax"].text = "";
+  desk.Click("cmdcalcola");
+  EXPECT_EQ(desk.TakeOut(),
+            "message stop \"Errore\" \"Specificare dei valori diversi da zero per i campi\\n\\nPotenza RMS, Impedenza "
+            "nominale, "
+            "Sensibilità (1W/1m), Escursione massima Xmax\" [OK] -> OK\n");
+  *desk["txtxmax"].text = "5";
+  *desk["txtvolume"].text = "";
+  desk.Tab("par");
+  desk.Click("cmdcalcola");
+  EXPECT_EQ(desk.TakeOut(),
+            "message stop \"Dati incompleti\" \"Inserire i valori delle dimensioni del trasduttore\" [OK] -> OK\n");
+}
+
 TEST(Compute, AsksForTheSizes) {
   Desk desk;
   desk.BeginParameters();
@@ -390,6 +408,18 @@ TEST(ImpedanceProject, WithAnImportTakesQmsFromTheBandwidth) {
   EXPECT_NEAR(desk.state.Vas, 0.07181109661494173, 1e-15);
 }
 
+TEST(ImpedanceProject, ReadsMmsAndRmsBackFromTheFigures) {
+  // By python: Res = 107.0002 − 6.1235 = 100.8767 is shown as 100.876, and Cmes = 262.952930 µF as 262.952. Of these
+  // Ras = 10² / 100.876 / 0.035² = 809.237 and Mas = 10² · 262.952e-6 / 0.035² = 21.4654; the full figures would give
+  // 809.231 and 21.4655.
+  Desk desk;
+  BeginTypedImpedance(desk);
+  *desk["txtzmax"].text = "107.0002";
+  *desk["txtrvc"].text = "6.1235";
+  ComputeOnly(desk);
+  ExpectTexts(desk, {{"txtrmes", "100.876"}, {"txtcmes", "262.952"}, {"txtras", "809.237"}, {"txtmas", "21.4654"}});
+}
+
 TEST(ImpedanceProject, WithoutAmplifierResistanceShowsItsQts) {
   Desk desk;
   BeginTypedImpedance(desk);
@@ -469,6 +499,50 @@ TEST(Proposal, SpeaksItalian) {
   EXPECT_EQ(desk.TakeOut(),
             "message information \"EBP= 77.7777\" \"Per questo woofer è consigliabile un box reflex\\nSi per box "
             "reflex - No per altro box\" [Yes No] -> No\n");
+}
+
+TEST(Proposal, SpeaksItalianOfTheOtherTwo) {
+  const std::vector<ProposalRow> rows{
+      {"35", "0.9",
+       "\"EBP= 38.8888\" \"Per questo woofer è necessario un box chiuso\\nSi per box chiuso - No per altro box\""},
+      {"35", "0.35",
+       "\"EBP= 100\" \"Per questo woofer è necessario un box reflex\\nSi per box reflex - No per altro box\""}};
+  for (const ProposalRow& row : rows) {
+    Desk desk(Language::Italian);
+    BeginFilled(desk);
+    *desk["txtqes"].text = row.qes;
+    ComputeOnly(desk);
+    EXPECT_EQ(desk.TakeOut(), "message information " + row.proposal + " [Yes No] -> No\n");
+  }
+}
+
+TEST(Proposal, OfAProductOfZeroIsNotMade) {
+  // Fs / Qes below the smallest double, with the other figures inside what a field can show.
+  Desk desk;
+  BeginFilled(desk);
+  desk.state.RsAmplifier = 0;
+  for (const auto& [field, text] :
+       Texts{{"txtfs", "1E-20"}, {"txtqes", "1E400"}, {"txtqmesin", "0.5"}, {"txtmms", "1E13"}, {"txtbl", "0.1"}}) {
+    *desk[field].text = text;
+  }
+  desk.Click("cmdcalcola");
+  EXPECT_EQ(desk.state.EBP, 0);
+  EXPECT_EQ(desk.TakeOut(), "");
+  EXPECT_FALSE(desk.program.windows.frmbox.window.open);
+  EXPECT_EQ(desk.sheet.tabs.size(), 4U);
+  EXPECT_TRUE(desk["txtfs"].locked);  // the closing runs
+  EXPECT_FALSE(desk["cmdcalcola"].enabled);
+  EXPECT_TRUE(desk.state.ProjectModified);
+}
+
+TEST(Proposal, RefusedOpensTheChoiceBehindWhichTheClosingHasRun) {
+  Desk desk;
+  BeginFilled(desk);
+  ComputeOnly(desk);
+  EXPECT_TRUE(desk.program.windows.frmbox.window.open);
+  EXPECT_TRUE(desk["txtfs"].locked);
+  EXPECT_TRUE(desk.state.ProjectModified);
+  EXPECT_EQ(desk.Text("txtfstrasdu"), "35");
 }
 
 TEST(Proposal, YesDesignsAClosedBox) {
