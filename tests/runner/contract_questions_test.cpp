@@ -241,6 +241,19 @@ TEST_F(Contract, TellsTheFocusOfOtherWindowsInFull) {
             Lines{"focused frmopzioni.txtspessore"});
 }
 
+TEST_F(Contract, PlacesADialogInTheMiddleOfAFrameAsWideAsTheScreen) {
+  const auto left = [&](double pixels) {
+    ScriptOptions options;
+    options.folder = folder.path();
+    options.screen_width = pixels;
+    const std::string out = RunScript("start\nchoose mdithsm.mnuopzioni\nplace frmopzioni\n", options).out;
+    const std::string words = "frmopzioni left=";
+    EXPECT_TRUE(out.starts_with(words)) << out;
+    return std::stod(out.substr(words.size()));
+  };
+  EXPECT_EQ(left(1920) - left(1024), (1920 - 1024) * 15 / 2.0);
+}
+
 TEST_F(Contract, AsksBeforeTheStartToo) {
   EXPECT_EQ(Run("windows\ntabs\nfocused\nstore\npages\nget txtmarca\nlook cmdcalcola\n"),
             (Lines{"windows", "tabs selected=", "focused none", "txtmarca = \"\"",
