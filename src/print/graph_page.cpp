@@ -16,6 +16,7 @@ struct FrequencyLabel {
   double x;
 };
 
+// Not under the lines of the plot, which begins at 10 Hz on its left edge: these places are wanted.
 constexpr auto kBoxFrequencies = std::to_array<FrequencyLabel>({
     {"10", 2140},
     {"20", 2940},
